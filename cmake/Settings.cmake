@@ -1,0 +1,37 @@
+# How everything of ours is compiled.
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTORCC ON)
+set(CMAKE_AUTOUIC ON)
+set(CMAKE_AUTOUIC_SEARCH_PATHS ${PROJECT_SOURCE_DIR}/forms)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+
+option(CMPED_WERROR "Treat warnings of our own code as errors" ON)
+option(CMPED_SANITIZERS "Build with AddressSanitizer and UBSan" OFF)
+
+find_program(CMPED_CCACHE ccache)
+if(CMPED_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMPED_CCACHE})
+endif()
+
+# Flags for our own code; what moc, uic and rcc make is compiled with them too and passes.
+add_library(cmped_options INTERFACE)
+target_compile_options(cmped_options INTERFACE -Wall -Wextra -Wconversion -Wshadow)
+if(CMPED_WERROR)
+    target_compile_options(cmped_options INTERFACE -Werror)
+endif()
+target_compile_definitions(cmped_options INTERFACE
+    QT_NO_CAST_TO_ASCII QT_DEPRECATED_WARNINGS QT_NO_FOREACH
+    CMPED_VERSION="${PROJECT_VERSION}")
+target_include_directories(cmped_options INTERFACE ${PROJECT_SOURCE_DIR})
+
+if(CMPED_SANITIZERS)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()

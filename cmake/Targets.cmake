@@ -1,0 +1,21 @@
+# cmped_room(NAME SOURCES ... LINKS ...): one folder of the house, a static library.
+function(cmped_room name)
+    cmake_parse_arguments(ROOM "" "" "SOURCES;LINKS" ${ARGN})
+    add_library(${name} STATIC ${ROOM_SOURCES})
+    target_link_libraries(${name} PUBLIC cmped_options ${ROOM_LINKS})
+endfunction()
+
+# cmped_test(NAME [SOURCE FILE] LINKS ...): one Qt Test program, tests/NAME.cpp, run by CTest
+# on the offscreen platform. The sample game's folder is CMPED_SAMPLE_GAME in its environment.
+function(cmped_test name)
+    cmake_parse_arguments(TEST "" "TIMEOUT" "LINKS" ${ARGN})
+    if(NOT TEST_TIMEOUT)
+        set(TEST_TIMEOUT 300)
+    endif()
+    add_executable(${name} ${name}.cpp)
+    target_link_libraries(${name} PRIVATE cmped_test_support ${TEST_LINKS} Qt5::Test)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT ${TEST_TIMEOUT}
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;SDL_AUDIODRIVER=dummy;LC_ALL=C.UTF-8;CMPED_SAMPLE_GAME=${PROJECT_BINARY_DIR}/sample-game;CMPED_BIN=${PROJECT_BINARY_DIR}/bin")
+endfunction()

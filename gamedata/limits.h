@@ -1,0 +1,34 @@
+// How much the program takes from a file before it stops believing it. Well-formed files stay far
+// below every one of these; files made to hurt end here.
+#pragma once
+
+#include <QtGlobal>
+
+namespace limits {
+
+// Deflate can't shrink more than this; a stated unpacked size beyond it is damage.
+constexpr qint64 deflateRatio = 1032;
+
+// Scenarios of a campaign without a map.
+constexpr quint32 scenarios = 30000;
+
+// Inflated bytes of a campaign's first member: 30,000 scenarios with their bit arrays need 120 MB.
+constexpr qint64 campaignHeaderBytes = qint64(256) * 1024 * 1024;
+
+// Inflated bytes of a map that are looked at; a header is some kilobytes long.
+constexpr qint64 mapHeaderBytes = qint64(8) * 1024 * 1024;
+
+// One unpacked entry of an archive. The largest pictures are a few megabytes.
+constexpr qint64 archiveEntryBytes = qint64(64) * 1024 * 1024;
+
+// The settings file and the table file.
+constexpr qint64 settingsBytes = qint64(4) * 1024 * 1024;
+constexpr qint64 tableFileBytes = qint64(64) * 1024 * 1024;
+
+// The number after a name in the table file that can be a key of a table: creatures, artifacts...
+constexpr int tableId = 65535;
+
+// Width and height of a picture.
+constexpr quint32 pictureSide = 16384;
+
+} // namespace limits
