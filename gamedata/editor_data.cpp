@@ -1,0 +1,1 @@
+// editor_data

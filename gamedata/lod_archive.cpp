@@ -1,0 +1,1 @@
+// lod_archive

@@ -1,0 +1,1 @@
+// pcx_image

@@ -1,0 +1,1 @@
+// region_image
