@@ -1,0 +1,37 @@
+#include "gamedata/locale_codec.h"
+
+#include <QTextCodec>
+
+#include <algorithm>
+#include <array>
+#include <clocale>
+#include <langinfo.h>
+#include <string_view>
+
+namespace {
+
+// What C libraries call plain ASCII: the locale of a system that was never told one.
+constexpr std::array<std::string_view, 4> asciiNames{"ANSI_X3.4-1968", "US-ASCII", "ASCII", "646"};
+
+QTextCodec *codecOfSystem()
+{
+    std::setlocale(LC_ALL, "");
+    // Numbers are read and written alike everywhere.
+    std::setlocale(LC_NUMERIC, "C");
+    const char *name = nl_langinfo(CODESET);
+    const bool ascii = std::find(asciiNames.begin(), asciiNames.end(), name) != asciiNames.end();
+    QTextCodec *codec = ascii ? nullptr : QTextCodec::codecForName(name);
+    return codec ? codec : QTextCodec::codecForName("UTF-8");
+}
+
+} // namespace
+
+bool setLocaleCodec(const QString &name)
+{
+    QTextCodec *codec =
+        name.isEmpty() ? codecOfSystem() : QTextCodec::codecForName(name.toLatin1());
+    if (!codec)
+        return false;
+    QTextCodec::setCodecForLocale(codec);
+    return true;
+}

@@ -1,0 +1,13 @@
+// The encoding in which strings of campaigns, maps and text exchange files are read and written,
+// and in which the system's file names stand: Qt's codec for the locale.
+//
+// Qt may be built so that it takes UTF-8 whatever the locale says, while files made with the game
+// are often in a Windows code page. So each program sets the codec once, before anything is read.
+#pragma once
+
+#include <QString>
+
+// Sets the codec of this name. An empty name takes what the system's locale says (LC_ALL,
+// LC_CTYPE, LANG), where plain ASCII counts as UTF-8 and an encoding unknown to Qt does too.
+// False if no codec has the name given; nothing is changed then.
+bool setLocaleCodec(const QString &name);
