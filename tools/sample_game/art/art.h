@@ -22,20 +22,30 @@ constexpr int kRegionStates = 3;  // 0 unselected, 1 selected, 2 unused
 constexpr int kRegionColours = 8; // the players' colours
 constexpr int kLookColours = 200; // most distinct colours of one ready-made look
 
-enum class Theme { Isles, Highlands, Frost, Desert, Marsh, Ember };
+enum class Theme
+{
+    Isles,
+    Highlands,
+    Frost,
+    Desert,
+    Marsh,
+    Ember
+};
 constexpr int kThemes = 6;
 
 // One region of a painted map. The masks are ARGB32, grey, all of one size, with alpha 0 where
 // they don't cover and 255 where they do. The looks have the masks' size, alpha 0 or 255 only,
 // at most kLookColours colours, never pure cyan; they are null unless asked for.
-struct PaintedRegion {
+struct PaintedRegion
+{
     QPoint position; // of the upper left corner on the map
     QImage fill, border, glow;
     QImage looks[kRegionStates][kRegionColours];
     QString name;
 };
 
-struct PaintedMap {
+struct PaintedMap
+{
     QImage background; // RGB32, kMapWidth x kMapHeight
     QVector<PaintedRegion> regions;
 };
@@ -50,7 +60,7 @@ QImage paintBackground(Theme theme, quint32 seed);
 // A still of kMovieWidth x kMovieHeight, RGB32; the number chooses the scene.
 QImage paintMoviePicture(int number, quint32 seed);
 
-// 800 x 600, RGB32 grey: the alpha of unused regions, in map coordinates.
+// 800 x 600, Grayscale8: the alpha of unused regions, in map coordinates.
 QImage paintDashPattern();
 
 } // namespace art
