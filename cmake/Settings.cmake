@@ -35,3 +35,8 @@ if(CMPED_SANITIZERS)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
 endif()
+
+option(CMPED_FUZZ "Drive the fuzz targets by libFuzzer (clang only)" OFF)
+if(CMPED_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()

@@ -1,0 +1,41 @@
+// Reads the input as an archive and unpacks all its files.
+#include "fuzz/memory_file.h"
+#include "fuzz/quiet_start.h"
+#include "gamedata/lod_archive.h"
+
+#include <QFile>
+
+namespace {
+
+bool start()
+{
+    startQuietly();
+    return true;
+}
+
+// Reads every byte of the answer and the zero behind it.
+void readAll(const LodArchive &archive, const QString &name)
+{
+    int size = 0;
+    const std::unique_ptr<char[]> bytes(archive.getFileData(name, &size));
+    if (bytes && (size < 0 || QByteArray(bytes.get(), size + 1).back() != '\0'))
+        abort();
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    static const bool started = start();
+    static MemoryFile input;
+    Q_UNUSED(started)
+    input.set(data, size);
+    QFile file(input.path());
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    LodArchive archive;
+    archive.Read(file, input.path());
+    for (auto entry = archive.files.begin(); entry != archive.files.end(); ++entry)
+        readAll(archive, entry.key());
+    return 0;
+}

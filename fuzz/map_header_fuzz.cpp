@@ -1,0 +1,43 @@
+// Reads the input as the header of a map, and imports it as a map file.
+#include "document/campaign_data.h"
+#include "fuzz/memory_file.h"
+#include "fuzz/quiet_start.h"
+
+#include <QDataStream>
+#include <QFile>
+
+namespace {
+
+bool start()
+{
+    startQuietly();
+    fillSmallTables();
+    return true;
+}
+
+void readHeader(const QByteArray &bytes, bool check)
+{
+    QDataStream stream(bytes);
+    stream.setByteOrder(QDataStream::LittleEndian);
+    ScenarioData scenario;
+    scenario.ReadMapHeader(stream, check);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    static const bool started = start();
+    static MemoryFile input;
+    Q_UNUSED(started)
+    const auto bytes =
+        QByteArray::fromRawData(reinterpret_cast<const char *>(data), static_cast<int>(size));
+    readHeader(bytes, true);
+    readHeader(bytes, false);
+    input.set(data, size);
+    QFile file(input.path());
+    ScenarioData scenario;
+    if (file.open(QIODevice::ReadOnly))
+        scenario.ReadMapFromFile(&file);
+    return 0;
+}
