@@ -1,0 +1,110 @@
+// cmped-cli: the editor's readers and writers for scripts.
+#include "cli/commands.h"
+#include "gamedata/game_dir.h"
+#include "gamedata/locale_codec.h"
+#include "gamedata/report.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QLoggingCategory>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+struct Options
+{
+    QCommandLineOption game{QStringLiteral("game"), QStringLiteral("the game's folder"),
+                            QStringLiteral("DIR")};
+    QCommandLineOption encoding{QStringLiteral("encoding"),
+                                QStringLiteral("the encoding of texts in campaigns and maps, such "
+                                               "as Windows-1251; else the locale's"),
+                                QStringLiteral("NAME")};
+    QCommandLineOption help{QStringLiteral("help"), QStringLiteral("shows this text")};
+    QCommandLineOption version{QStringLiteral("version"), QStringLiteral("shows the version")};
+};
+
+// Messages go to standard error. Where the editor would end without a word there is one here, so
+// that a script's log tells why.
+void reportToStandardError()
+{
+    static bool told = false;
+    static Reporter writer;
+    writer = setReporter({[](const QString &title, const QString &text) {
+                              told = true;
+                              writer.showError(title, text);
+                          },
+                          [](int) {
+                              if (!told)
+                                  failed(mainWindowText("Unable to generate image"));
+                              std::exit(exitFailed);
+                          }});
+}
+
+QString describe(const Options &options)
+{
+    QString text;
+    for (const QCommandLineOption &option :
+         {options.game, options.encoding, options.help, options.version}) {
+        const QString name =
+            QStringLiteral("--%1 %2").arg(option.names().constFirst(), option.valueName());
+        text += QStringLiteral("  %1  %2\n").arg(name.leftJustified(15), option.description());
+    }
+    return text;
+}
+
+ExitStatus print(const QString &text)
+{
+    std::fputs(text.toLocal8Bit().constData(), stdout);
+    return std::fflush(stdout) == 0 ? exitDone : exitFailed;
+}
+
+ExitStatus runCommand(const QStringList &words)
+{
+    if (words.isEmpty())
+        return wrongUsage(QStringLiteral("A command is missing."));
+    const Command *command = findCommand(words.constFirst());
+    if (!command)
+        return wrongUsage(QStringLiteral("There is no command \"%1\".").arg(words.constFirst()));
+    const QStringList arguments = words.mid(1);
+    if (arguments.size() != argumentNames(*command).size()) {
+        return wrongUsage(QStringLiteral("Usage: cmped-cli [options] %1 %2")
+                              .arg(QLatin1String(command->name), QLatin1String(command->arguments))
+                              .trimmed());
+    }
+    return command->run(arguments);
+}
+
+ExitStatus runCommandLine()
+{
+    const Options options;
+    QCommandLineParser parser;
+    // What follows the command belongs to it, also where it begins with a dash.
+    parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
+    parser.addOptions({options.game, options.encoding, options.help, options.version});
+    if (!parser.parse(QCoreApplication::arguments()))
+        return wrongUsage(parser.errorText());
+    if (parser.isSet(options.help))
+        return print(helpText(describe(options)));
+    if (parser.isSet(options.version))
+        return print(QStringLiteral("cmped-cli " CMPED_VERSION "\n"));
+    const QString encoding = parser.value(options.encoding);
+    if (!setLocaleCodec(encoding))
+        return wrongUsage(QStringLiteral("There is no encoding \"%1\".").arg(encoding));
+    // File names on the command line go through the same codec as on the way to the disk.
+    parser.parse(QCoreApplication::arguments());
+    if (parser.isSet(options.game))
+        setGameRoot(parser.value(options.game));
+    return runCommand(parser.positionalArguments());
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    reportToStandardError();
+    return runCommandLine();
+}

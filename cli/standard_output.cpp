@@ -1,0 +1,39 @@
+#include "cli/standard_output.h"
+
+#include <cerrno>
+#include <unistd.h>
+
+namespace {
+
+constexpr int bufferSize = 64 * 1024;
+
+} // namespace
+
+void StandardOutput::write(const QByteArray &bytes)
+{
+    m_buffer += bytes;
+    if (m_buffer.size() >= bufferSize)
+        flush();
+}
+
+ExitStatus StandardOutput::finish()
+{
+    flush();
+    if (m_error == 0)
+        return exitDone;
+    return cannotWrite(QStringLiteral("standard output"), qt_error_string(m_error));
+}
+
+void StandardOutput::flush()
+{
+    qint64 done = 0;
+    while (m_error == 0 && done < m_buffer.size()) {
+        const ssize_t written =
+            ::write(STDOUT_FILENO, m_buffer.constData() + done, size_t(m_buffer.size() - done));
+        if (written >= 0)
+            done += written;
+        else if (errno != EINTR)
+            m_error = errno;
+    }
+    m_buffer.clear();
+}

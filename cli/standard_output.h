@@ -1,0 +1,20 @@
+// Standard output with a buffer, and with a word about a full disk behind it.
+#pragma once
+
+#include "cli/command.h"
+
+#include <QByteArray>
+
+class StandardOutput
+{
+public:
+    void write(const QByteArray &bytes);
+    // Writes what is left; to be called at the end. Tells a failure of any write so far.
+    ExitStatus finish();
+
+private:
+    void flush();
+
+    QByteArray m_buffer;
+    int m_error = 0; // errno of the first write that failed
+};
