@@ -1,0 +1,63 @@
+#include "campaign_dialogs/background_preview.h"
+
+#include "gamedata/campaign_picture.h"
+#include "gamedata/editor_data.h"
+#include "gamedata/image_cache.h"
+#include "gamedata/pcx_image.h"
+#include "gamedata/region_image.h"
+#include "gamedata/report.h"
+
+#include <QDebug>
+#include <QLabel>
+#include <QPainter>
+
+namespace {
+
+constexpr unsigned previewColour = 2;
+
+QImage computedRegion(unsigned campaignId, unsigned index, const CampaignRegion &region)
+{
+    if (const QImage *cached = preloadArchive->getSmallGeneratedImage(campaignId, index))
+        return *cached;
+    qDebug() << "GENERATE REGION";
+    const QImage image =
+        createGeneratedImage(previewColour, campaignId, index, regionSelected, region.fillImage,
+                             region.borderImage, region.glowImage);
+    preloadArchive->saveSmallGeneratedImage(campaignId, index, image);
+    return image;
+}
+
+QImage readyMadeRegion(const CampaignRegion &region)
+{
+    return OpenPcx8Image(region.imageNames.value(int(regionSelected)).value(int(previewColour)));
+}
+
+void drawRegions(QImage &picture, unsigned campaignId)
+{
+    const CampaignInfo &map = EditorData::campaignMap(campaignId);
+    QPainter painter(&picture);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.drawRect(0, 0, 455, 599);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
+    for (int i = 0; i < map.regions.size(); ++i) {
+        const CampaignRegion &region = map.regions[i];
+        const QImage image = map.generated ? computedRegion(campaignId, unsigned(i), region)
+                                           : readyMadeRegion(region);
+        if (image.isNull())
+            endSilently(1);
+        painter.drawImage(region.x, region.y, image);
+    }
+}
+
+} // namespace
+
+void putBackgroundToLabel(QLabel *label, QString name, bool withRegions, unsigned int campaignId)
+{
+    QImage picture = campaignBackground(name);
+    if (picture.isNull())
+        return;
+    if (withRegions)
+        drawRegions(picture, campaignId);
+    label->setPixmap(QPixmap::fromImage(
+        picture.scaled(label->size(), Qt::KeepAspectRatio, Qt::SmoothTransformation)));
+}

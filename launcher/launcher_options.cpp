@@ -1,0 +1,37 @@
+#include "launcher/launcher_options.h"
+
+#include <string_view>
+
+namespace {
+
+constexpr std::string_view encodingOption = "--encoding";
+constexpr std::string_view encodingPrefix = "--encoding=";
+
+} // namespace
+
+LauncherOptions readLauncherOptions(int argc, char **argv)
+{
+    LauncherOptions options;
+    bool own = true; // "--" has not come yet
+    for (int i = 0; i < argc; ++i) {
+        const std::string_view argument = argv[i];
+        if (i == 0 || !own) {
+            options.editorArguments.push_back(argv[i]);
+        } else if (argument == "--") {
+            own = false;
+        } else if (argument == "--help") {
+            options.help = true;
+        } else if (argument == "--version") {
+            options.version = true;
+        } else if (argument == encodingOption && i + 1 < argc) {
+            options.encoding = argv[++i];
+        } else if (argument == encodingOption) {
+            options.error = "--encoding needs the name of an encoding";
+        } else if (argument.substr(0, encodingPrefix.size()) == encodingPrefix) {
+            options.encoding = argument.substr(encodingPrefix.size());
+        } else {
+            options.editorArguments.push_back(argv[i]);
+        }
+    }
+    return options;
+}

@@ -1,0 +1,67 @@
+#include "shell/drag_and_drop_handler.h"
+
+#include <QDragEnterEvent>
+#include <QGraphicsSceneDragDropEvent>
+#include <QMimeData>
+#include <QUrl>
+
+DragAndDropHandler::DragAndDropHandler(QObject *parent) : QObject(parent) {}
+
+bool DragAndDropHandler::eventFilter(QObject *watched, QEvent *event)
+{
+    if (!watched->inherits("MainWindow") && !watched->inherits("MyGraphicsScene"))
+        return false;
+    switch (event->type()) {
+    case QEvent::DragEnter:
+        handleDragEnter(static_cast<QDragEnterEvent *>(event));
+        return true;
+    case QEvent::Drop:
+        handleDrop(static_cast<QDropEvent *>(event));
+        return true;
+    case QEvent::GraphicsSceneDragEnter:
+        handleDragEnter(static_cast<QGraphicsSceneDragDropEvent *>(event));
+        return true;
+    case QEvent::GraphicsSceneDrop:
+        handleDrop(static_cast<QGraphicsSceneDragDropEvent *>(event));
+        return true;
+    default:
+        return QObject::eventFilter(watched, event);
+    }
+}
+
+void DragAndDropHandler::handleDragEnter(QDragEnterEvent *event)
+{
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void DragAndDropHandler::handleDragEnter(QGraphicsSceneDragDropEvent *event)
+{
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void DragAndDropHandler::handleDrop(QDropEvent *event)
+{
+    event->acceptProposedAction();
+    tellDroppedFile(event->mimeData());
+}
+
+void DragAndDropHandler::handleDrop(QGraphicsSceneDragDropEvent *event)
+{
+    event->acceptProposedAction();
+    tellDroppedFile(event->mimeData());
+}
+
+QString DragAndDropHandler::getUrlFromMimeData(const QMimeData *data)
+{
+    const QList<QUrl> urls = data->urls();
+    return urls.isEmpty() ? QString() : urls.first().toLocalFile();
+}
+
+void DragAndDropHandler::tellDroppedFile(const QMimeData *data)
+{
+    const QString path = getUrlFromMimeData(data);
+    if (!path.isEmpty())
+        emit fileDropped(path);
+}

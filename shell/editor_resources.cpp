@@ -1,0 +1,9 @@
+#include "shell/editor_resources.h"
+
+#include <QDir>
+
+void initEditorResources()
+{
+    Q_INIT_RESOURCE(icons);
+    Q_INIT_RESOURCE(conf);
+}

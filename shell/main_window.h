@@ -1,0 +1,99 @@
+// The one window of the editor: it owns the campaign in work, the name of its file and the list
+// of recent files, and every command on the whole document starts here.
+//
+// The modified flag and the selection that dialogs look at stand in EditorData::info.
+#pragma once
+
+#include "document/campaign_data.h"
+
+#include <QMainWindow>
+#include <QVector>
+
+#include <array>
+#include <memory>
+
+class CampaignRegionItem;
+class DragAndDropHandler;
+class MapBrowser;
+class QAction;
+class QApplication;
+class QLabel;
+class Ui_MainWindow;
+
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    static constexpr int recentFileCount = 5;
+
+    explicit MainWindow(QWidget *parent);
+    ~MainWindow() override;
+
+    void initActions();
+    void initUI();
+    void initSlotsAndSignals();
+    void initInfo();
+
+    // Opens a campaign after a question about unsaved changes. The document stays as it was if
+    // the file can't be read, which a message tells.
+    void loadFile(const QString &path);
+    // Writes the campaign. If that fails a message tells it and the document stays modified.
+    void saveFile(const QString &path);
+    // Makes this the document's file and the first of the recent ones.
+    void setCurrentFile(const QString &path);
+    // Opens the campaign that the command line names.
+    void processInfo(QApplication *application);
+
+    // Builds the scene anew from the document. All items are destroyed.
+    void refreshCampaignView();
+    void resetWindowTitle();
+    void updateWindowTitle();
+    void updateRecentFileActions();
+    void updateRegionLabel();
+    // The colour of a scenario's region, 2 for a region without a scenario.
+    int getRegionColor(int region);
+    // A path without its folders.
+    QString strippedName(const QString &path);
+
+    // Opens the scenario of the selected region; the map offers it too.
+    QAction *scenarioPropertiesAction() const;
+
+    quint32 campaignId = 24;   // the campaign map on show
+    quint32 currentRegion = 0; // the selected region
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private slots:
+    void newFile();
+    void open();
+    void openRecentFile();
+    void save();
+    void saveAs();
+    void quit();
+    void about();
+    void setTooltipToHintBar();
+
+private:
+    void fitWindowToMap();
+    void fillStatusBar();
+    void setToolTips();
+    void switchScrollBars(Qt::ScrollBarPolicy policy);
+    void addBackground(const QImage &picture);
+    void addRegion(int index);
+    unsigned int askSaveChanges();
+
+    QLabel *hintLabel = nullptr; // Qt owns these three
+    QLabel *regionLabel = nullptr;
+    DragAndDropHandler *dropHandler = nullptr;
+    QVector<CampaignRegionItem *> regionItems; // owned by the scene, in the order of the regions
+    CampaignData campaign;
+    QString currentFile; // empty: never saved
+    std::array<QAction *, recentFileCount> recentFileActions{};
+    MapBrowser *mapBrowser = nullptr;
+    const std::unique_ptr<Ui_MainWindow> ui;
+    QSize initialSize; // of the window when the map fits exactly
+};

@@ -1,0 +1,198 @@
+// The commands on the document as a whole: new, open, save, and the question about changes.
+#include "shell/main_window.h"
+
+#include "campaign_dialogs/new_campaign.h"
+#include "gamedata/editor_data.h"
+#include "gamedata/game_dir.h"
+#include "gamedata/ini_file.h"
+#include "shell/campaign_map_view.h"
+#include "ui_MainWindow.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+namespace {
+
+constexpr const char *editorSection = "Campaign Editor";
+constexpr const char *pathKey = "Path";
+constexpr quint32 mapOfCampaignsWithoutMap = 24;
+
+QString untitled()
+{
+    return QStringLiteral("Untitled");
+}
+
+QString mapsFolder()
+{
+    return getGameDir(QStringLiteral("Maps")).path();
+}
+
+// The folder used last, or the given one.
+QString startFolder(const QString &otherwise)
+{
+    const QString used = QString::fromUtf8(ini->GetStringVal(editorSection, pathKey, ""));
+    return used.isEmpty() ? otherwise : used;
+}
+
+void rememberFolderOf(const QString &file)
+{
+    const QByteArray folder = QFileInfo(file).absolutePath().toUtf8();
+    ini->SetStringVal(editorSection, pathKey, folder.constData());
+}
+
+// The hourglass for as long as it lives. A reader that has already taken it away, as it does
+// before a message, isn't followed by a second taking.
+class WaitCursor
+{
+public:
+    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { restore(); }
+    WaitCursor(const WaitCursor &) = delete;
+    WaitCursor &operator=(const WaitCursor &) = delete;
+
+    void restore()
+    {
+        const QCursor *now = QApplication::overrideCursor();
+        if (m_set && now && now->shape() == Qt::WaitCursor)
+            QApplication::restoreOverrideCursor();
+        m_set = false;
+    }
+
+private:
+    bool m_set = true;
+};
+
+// One OK button, the text as it is.
+void warn(QWidget *parent, const QString &title, const QString &text)
+{
+    QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::Ok, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+} // namespace
+
+// Neither asks about unsaved changes nor touches the modified flag.
+void MainWindow::newFile()
+{
+    NewCampaign dialog(this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    if (dialog.isCampaignWithMap()) {
+        campaign.initDummyCampaign(dialog.getSelectedItemId(), true, 0, 0);
+        campaignId = campaign.mapId;
+        ui->stackedWidget->setCurrentWidget(mapBrowser);
+    } else {
+        campaign.initDummyCampaign(mapOfCampaignsWithoutMap, false, dialog.getSelectedItemId(), 1);
+        campaignId = mapOfCampaignsWithoutMap;
+    }
+    currentRegion = 0;
+    EditorData::info.region = 0;
+    currentFile.clear();
+    refreshCampaignView();
+    updateWindowTitle();
+    updateRegionLabel();
+}
+
+void MainWindow::open()
+{
+    const QString folder = startFolder(getGameDir(QStringLiteral("Maps")).canonicalPath());
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Open Map File"), folder, tr("Eldmark Saga campaign (*.e3c);;All Files (*)"));
+    if (path.isEmpty())
+        return;
+    rememberFolderOf(path);
+    loadFile(path);
+}
+
+void MainWindow::loadFile(const QString &path)
+{
+    if (EditorData::info.modified && askSaveChanges() == QMessageBox::Cancel)
+        return;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        warn(this, tr("Error"), tr("Cannot read file %1:\n%2.").arg(path, file.errorString()));
+        return;
+    }
+    WaitCursor cursor;
+    CampaignData read;
+    if (!read.ReadFromFile(&file))
+        return;
+    campaign = std::move(read);
+    campaignId = campaign.mapId;
+    currentRegion = 0;
+    refreshCampaignView();
+    cursor.restore();
+    setCurrentFile(path);
+    setWindowTitle(tr("%1 - %2").arg(strippedName(path), cmpEditorTitle()));
+    updateRegionLabel();
+    EditorData::info.modified = false;
+}
+
+void MainWindow::save()
+{
+    if (currentFile.isEmpty())
+        saveAs();
+    else
+        saveFile(currentFile);
+}
+
+void MainWindow::saveAs()
+{
+    const QString name = currentFile.isEmpty() ? untitled() : QFileInfo(currentFile).baseName();
+    QFileDialog dialog(this, tr("Save As"), startFolder(mapsFolder()),
+                       tr("Eldmark Saga campaign (*.e3c);;All Files (*)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("e3c"));
+    dialog.selectFile(name);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return;
+    const QString path = dialog.selectedFiles().constFirst();
+    rememberFolderOf(path);
+    saveFile(path);
+}
+
+void MainWindow::saveFile(const QString &path)
+{
+    WaitCursor cursor;
+    const SaveResult result = campaign.saveTo(path);
+    cursor.restore();
+    if (!result.ok) {
+        warn(this, tr("Error"), tr("Cannot write file %1:\n%2.").arg(path, result.error));
+        return;
+    }
+    setCurrentFile(path);
+    EditorData::info.modified = false;
+    updateWindowTitle();
+}
+
+void MainWindow::processInfo(QApplication *)
+{
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() > 1)
+        loadFile(arguments[1]);
+}
+
+QString MainWindow::strippedName(const QString &path)
+{
+    return QFileInfo(path).fileName();
+}
+
+// A Yes whose save dialog is then cancelled counts as Yes.
+unsigned int MainWindow::askSaveChanges()
+{
+    const QString name = currentFile.isEmpty() ? untitled() : QFileInfo(currentFile).baseName();
+    QMessageBox box;
+    box.setWindowTitle(cmpEditorTitle());
+    box.setText(tr("Save changes to %1?").arg(name));
+    box.setTextFormat(Qt::PlainText);
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    box.setDefaultButton(QMessageBox::Yes);
+    const int answer = box.exec();
+    if (answer == QMessageBox::Yes)
+        save();
+    return unsigned(answer);
+}

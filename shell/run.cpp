@@ -1,0 +1,161 @@
+// The program from its first to its last moment: stages in a fixed order, each of which depends
+// on what stands above it.
+#include "gamedata/editor_data.h"
+#include "gamedata/game_files.h"
+#include "gamedata/image_cache.h"
+#include "gamedata/ini_file.h"
+#include "gamedata/runtime/dat_file.h"
+#include "shell/dialog_look.h"
+#include "shell/editor_resources.h"
+#include "shell/exit_signals.h"
+#include "shell/main_window.h"
+#include "shell/message_reporter.h"
+#include "shell/startup.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QSplashScreen>
+
+#include <array>
+#include <memory>
+
+namespace {
+
+struct Session
+{
+    int argc;
+    char **argv;
+    std::unique_ptr<QApplication> application;
+    std::unique_ptr<QFont> font;
+    std::unique_ptr<QPixmap> splashPicture;
+    std::unique_ptr<QSplashScreen> splash;
+    std::unique_ptr<MainWindow> window;
+};
+
+void setAttributes(Session &)
+{
+    initEditorResources();
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
+}
+
+void createApplication(Session &session)
+{
+    session.application = std::make_unique<QApplication>(session.argc, session.argv);
+    reportWithMessageBoxes();
+}
+
+void setFont(Session &session)
+{
+    session.font = std::make_unique<QFont>(editorFont());
+    QApplication::setFont(*session.font);
+}
+
+void leaveSystemFolder(Session &)
+{
+    if (getSystemPath() == QDir::currentPath())
+        QDir::setCurrent(QCoreApplication::applicationDirPath());
+}
+
+void stopComboAnimation(Session &)
+{
+    QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
+}
+
+void createImageCache(Session &)
+{
+    preloadArchive = new PreloadArchive;
+}
+
+void loadSettings(Session &)
+{
+    ini = loadRavnIni();
+}
+
+void loadTableFile(Session &)
+{
+    loadRavnDat(ini);
+}
+
+void loadLanguage(Session &session)
+{
+    loadTranslations(session.application.get());
+}
+
+void loadSplashPicture(Session &session)
+{
+    session.splashPicture = std::make_unique<QPixmap>(splashPicture());
+}
+
+void showSplash(Session &session)
+{
+    session.splash = std::make_unique<QSplashScreen>(*session.splashPicture);
+    session.splash->show();
+}
+
+void createWindow(Session &session)
+{
+    session.window = std::make_unique<MainWindow>(nullptr);
+}
+
+void openNamedFile(Session &session)
+{
+    session.window->processInfo(session.application.get());
+}
+
+void showWindow(Session &session)
+{
+    QCoreApplication::processEvents();
+    session.window->show();
+    session.splash->hide();
+}
+
+void preloadPattern(Session &)
+{
+    preloadArchive->preloadPcxImage16(QStringLiteral("cmpdash.pcx"));
+}
+
+void runEventLoop(Session &)
+{
+    const ExitSignals signalsOfTheSystem;
+    QApplication::exec();
+}
+
+void writeSettings(Session &)
+{
+    ini->Write();
+}
+
+void freeTableFile(Session &)
+{
+    delete RADF;
+    RADF = nullptr;
+}
+
+void destroyWindows(Session &session)
+{
+    session.window.reset();
+    session.splash.reset();
+    session.splashPicture.reset();
+    session.font.reset();
+    session.application.reset();
+}
+
+constexpr std::array<void (*)(Session &), 19> stages{{
+    setAttributes,    createApplication, setFont,       leaveSystemFolder, stopComboAnimation,
+    createImageCache, loadSettings,      loadTableFile, loadLanguage,      loadSplashPicture,
+    showSplash,       createWindow,      openNamedFile, showWindow,        preloadPattern,
+    runEventLoop,     writeSettings,     freeTableFile, destroyWindows,
+}};
+
+} // namespace
+
+// Runs the editor with the launcher's command line; argument 1, if any, is a campaign to open.
+// Answers 0 whenever it answers. A missing game file ends the process instead.
+extern "C" Q_DECL_EXPORT int run(int argc, char **argv)
+{
+    Session session{argc, argv, {}, {}, {}, {}, {}};
+    for (const auto stage : stages)
+        stage(session);
+    return 0;
+}

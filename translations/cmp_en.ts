@@ -1,0 +1,242 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en_US">
+<context>
+    <name>AboutCmpEd</name>
+    <message>
+        <source>About Campaign Editor</source>
+        <translation>About Campaign Editor</translation>
+    </message>
+    <message>
+        <source>Version Ravn</source>
+        <translation>Version Ravn</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Eldmark Saga® Campaign Editor</source>
+        <translation>Eldmark Saga® Campaign Editor</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>&amp;New...</source>
+        <translation>&amp;New...</translation>
+    </message>
+    <message>
+        <source>Open...</source>
+        <translation>Open...</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Save As...</translation>
+    </message>
+    <message>
+        <source>Export Texts...</source>
+        <translation>Export Texts...</translation>
+    </message>
+    <message>
+        <source>Import Texts...</source>
+        <translation>Import Texts...</translation>
+    </message>
+    <message>
+        <source>Refresh Scenario Maps</source>
+        <translation>Refresh Scenario Maps</translation>
+    </message>
+    <message>
+        <source>Export Scenario Maps</source>
+        <translation>Export Scenario Maps</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <source>Campaign Properties</source>
+        <translation>Campaign Properties</translation>
+    </message>
+    <message>
+        <source>Scenario Properties</source>
+        <translation>Scenario Properties</translation>
+    </message>
+    <message>
+        <source>About Campaign Editor...</source>
+        <translation>About Campaign Editor...</translation>
+    </message>
+    <message>
+        <source>Convert campaign...</source>
+        <translation>Convert campaign...</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+    <message>
+        <source>%1%3 - %2</source>
+        <translation>%1%3 - %2</translation>
+    </message>
+    <message>
+        <source>&amp;%1 %2</source>
+        <translation>&amp;%1 %2</translation>
+    </message>
+    <message>
+        <source>Open Map File</source>
+        <translation>Open Map File</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Save As</translation>
+    </message>
+    <message>
+        <source>Eldmark Saga campaign (*.e3c);;All Files (*)</source>
+        <translation>Eldmark Saga campaign (*.e3c);;All Files (*)</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Cannot read file %1:
+%2.</source>
+        <translation>Cannot read file %1:
+%2.</translation>
+    </message>
+    <message>
+        <source>Cannot write file %1:
+%2.</source>
+        <translation>Cannot write file %1:
+%2.</translation>
+    </message>
+    <message>
+        <source>Save changes to %1?</source>
+        <translation>Save changes to %1?</translation>
+    </message>
+    <message>
+        <source>Unable to generate image</source>
+        <translation>Unable to generate image</translation>
+    </message>
+    <message>
+        <source>Can&apos;t find %1 file in lod file</source>
+        <translation>Can&apos;t find %1 file in lod file</translation>
+    </message>
+    <message>
+        <source>Can&apos;t open file %1</source>
+        <translation>Can&apos;t open file %1</translation>
+    </message>
+    <message>
+        <source>Invalid campaign file version!
+
+File version = %1
+Current version = %2</source>
+        <translation>Invalid campaign file version!
+
+File version = %1
+Current version = %2</translation>
+    </message>
+    <message>
+        <source>Unsupported version!
+
+File subversion = %1
+Current subversion = %2</source>
+        <translation>Unsupported version!
+
+File subversion = %1
+Current subversion = %2</translation>
+    </message>
+    <message>
+        <source>Incorrect or damaged file.</source>
+        <translation>Incorrect or damaged file.</translation>
+    </message>
+    <message>
+        <source>Campaign Editor cannot be launched because Ravn.dat was not found. 
+Ravn.dat must be in Eldmark root folder.</source>
+        <translation>Campaign Editor cannot be launched because Ravn.dat was not found. 
+Ravn.dat must be in Eldmark root folder.</translation>
+    </message>
+    <message>
+        <source>Eldmark Campaign Editor cannot be launched because Ravn_settings.ini was not found. 
+Ravn_settings.ini must be in Eldmark root folder.</source>
+        <translation>Eldmark Campaign Editor cannot be launched because Ravn_settings.ini was not found. 
+Ravn_settings.ini must be in Eldmark root folder.</translation>
+    </message>
+</context>
+<context>
+    <name>MyQGraphicsView</name>
+    <message>
+        <source>Properties...</source>
+        <translation>Properties...</translation>
+    </message>
+</context>
+<context>
+    <name>NewCampaign</name>
+    <message>
+        <source>Campaign map</source>
+        <translation>Campaign map</translation>
+    </message>
+    <message>
+        <source>Campaign background</source>
+        <translation>Campaign background</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Incorrect or damaged file.</source>
+        <translation>Incorrect or damaged file.</translation>
+    </message>
+    <message>
+        <source>Basic</source>
+        <translation>Basic</translation>
+    </message>
+    <message>
+        <source>Advanced</source>
+        <translation>Advanced</translation>
+    </message>
+    <message>
+        <source>Expert</source>
+        <translation>Expert</translation>
+    </message>
+</context>
+<context>
+    <name>newcampaign</name>
+    <message>
+        <source>New Campaign</source>
+        <translation>New Campaign</translation>
+    </message>
+    <message>
+        <source>Campaign type</source>
+        <translation>Campaign type</translation>
+    </message>
+    <message>
+        <source>Campaign with map</source>
+        <translation>Campaign with map</translation>
+    </message>
+    <message>
+        <source>Campaign without map</source>
+        <translation>Campaign without map</translation>
+    </message>
+    <message>
+        <source>Campaign map</source>
+        <translation>Campaign map</translation>
+    </message>
+    <message>
+        <source>image</source>
+        <translation>image</translation>
+    </message>
+</context>
+</TS>

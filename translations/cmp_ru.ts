@@ -1,0 +1,242 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru_RU" sourcelanguage="en_US">
+<context>
+    <name>AboutCmpEd</name>
+    <message>
+        <source>About Campaign Editor</source>
+        <translation>О редакторе кампаний</translation>
+    </message>
+    <message>
+        <source>Version Ravn</source>
+        <translation>Версия Ravn</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Eldmark Saga® Campaign Editor</source>
+        <translation>Редактор кампаний Eldmark Saga®</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Файл</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Правка</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Справка</translation>
+    </message>
+    <message>
+        <source>&amp;New...</source>
+        <translation>&amp;Создать...</translation>
+    </message>
+    <message>
+        <source>Open...</source>
+        <translation>Открыть...</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Сохранить как...</translation>
+    </message>
+    <message>
+        <source>Export Texts...</source>
+        <translation>Экспорт текстов...</translation>
+    </message>
+    <message>
+        <source>Import Texts...</source>
+        <translation>Импорт текстов...</translation>
+    </message>
+    <message>
+        <source>Refresh Scenario Maps</source>
+        <translation>Обновить карты сценариев</translation>
+    </message>
+    <message>
+        <source>Export Scenario Maps</source>
+        <translation>Экспорт карт сценариев</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Выход</translation>
+    </message>
+    <message>
+        <source>Campaign Properties</source>
+        <translation>Свойства кампании</translation>
+    </message>
+    <message>
+        <source>Scenario Properties</source>
+        <translation>Свойства сценария</translation>
+    </message>
+    <message>
+        <source>About Campaign Editor...</source>
+        <translation>О редакторе кампаний...</translation>
+    </message>
+    <message>
+        <source>Convert campaign...</source>
+        <translation>Преобразовать кампанию...</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+    <message>
+        <source>%1%3 - %2</source>
+        <translation>%1%3 - %2</translation>
+    </message>
+    <message>
+        <source>&amp;%1 %2</source>
+        <translation>&amp;%1 %2</translation>
+    </message>
+    <message>
+        <source>Open Map File</source>
+        <translation>Открыть файл карты</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Сохранить как</translation>
+    </message>
+    <message>
+        <source>Eldmark Saga campaign (*.e3c);;All Files (*)</source>
+        <translation>Кампания Eldmark Saga (*.e3c);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Ошибка</translation>
+    </message>
+    <message>
+        <source>Cannot read file %1:
+%2.</source>
+        <translation>Не удаётся прочитать файл %1:
+%2.</translation>
+    </message>
+    <message>
+        <source>Cannot write file %1:
+%2.</source>
+        <translation>Не удаётся записать файл %1:
+%2.</translation>
+    </message>
+    <message>
+        <source>Save changes to %1?</source>
+        <translation>Сохранить изменения в %1?</translation>
+    </message>
+    <message>
+        <source>Unable to generate image</source>
+        <translation>Не удаётся создать изображение</translation>
+    </message>
+    <message>
+        <source>Can&apos;t find %1 file in lod file</source>
+        <translation>Файл %1 не найден в архивах lod</translation>
+    </message>
+    <message>
+        <source>Can&apos;t open file %1</source>
+        <translation>Не удаётся открыть файл %1</translation>
+    </message>
+    <message>
+        <source>Invalid campaign file version!
+
+File version = %1
+Current version = %2</source>
+        <translation>Неверная версия файла кампании!
+
+Версия файла = %1
+Текущая версия = %2</translation>
+    </message>
+    <message>
+        <source>Unsupported version!
+
+File subversion = %1
+Current subversion = %2</source>
+        <translation>Версия не поддерживается!
+
+Подверсия файла = %1
+Текущая подверсия = %2</translation>
+    </message>
+    <message>
+        <source>Incorrect or damaged file.</source>
+        <translation>Неверный или повреждённый файл.</translation>
+    </message>
+    <message>
+        <source>Campaign Editor cannot be launched because Ravn.dat was not found. 
+Ravn.dat must be in Eldmark root folder.</source>
+        <translation>Редактор кампаний не может быть запущен: файл Ravn.dat не найден. 
+Файл Ravn.dat должен находиться в корневой папке Eldmark.</translation>
+    </message>
+    <message>
+        <source>Eldmark Campaign Editor cannot be launched because Ravn_settings.ini was not found. 
+Ravn_settings.ini must be in Eldmark root folder.</source>
+        <translation>Редактор кампаний Eldmark не может быть запущен: файл Ravn_settings.ini не найден. 
+Файл Ravn_settings.ini должен находиться в корневой папке Eldmark.</translation>
+    </message>
+</context>
+<context>
+    <name>MyQGraphicsView</name>
+    <message>
+        <source>Properties...</source>
+        <translation>Свойства...</translation>
+    </message>
+</context>
+<context>
+    <name>NewCampaign</name>
+    <message>
+        <source>Campaign map</source>
+        <translation>Карта кампании</translation>
+    </message>
+    <message>
+        <source>Campaign background</source>
+        <translation>Фон кампании</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Incorrect or damaged file.</source>
+        <translation>Неверный или повреждённый файл.</translation>
+    </message>
+    <message>
+        <source>Basic</source>
+        <translation>Базовый</translation>
+    </message>
+    <message>
+        <source>Advanced</source>
+        <translation>Продвинутый</translation>
+    </message>
+    <message>
+        <source>Expert</source>
+        <translation>Эксперт</translation>
+    </message>
+</context>
+<context>
+    <name>newcampaign</name>
+    <message>
+        <source>New Campaign</source>
+        <translation>Новая кампания</translation>
+    </message>
+    <message>
+        <source>Campaign type</source>
+        <translation>Тип кампании</translation>
+    </message>
+    <message>
+        <source>Campaign with map</source>
+        <translation>Кампания с картой</translation>
+    </message>
+    <message>
+        <source>Campaign without map</source>
+        <translation>Кампания без карты</translation>
+    </message>
+    <message>
+        <source>Campaign map</source>
+        <translation>Карта кампании</translation>
+    </message>
+    <message>
+        <source>image</source>
+        <translation>изображение</translation>
+    </message>
+</context>
+</TS>
