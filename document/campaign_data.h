@@ -20,10 +20,9 @@
 #include <optional>
 #include <vector>
 
+class CampaignData;
 class QDataStream;
 class QFile;
-
-class CampaignData;
 
 struct CmpPrologue
 {
@@ -108,7 +107,8 @@ public:
     void initDummyCampaign(unsigned int mapId, bool hasMap, unsigned int customValue,
                            unsigned int scenarioCount);
 
-    // How many scenarios the campaign has: its map's regions, or scenarioCount.
+    // How many scenarios the campaign has: its map's regions, or scenarioCount. The vector may
+    // differ from it while the document is in work.
     unsigned int countOfScenarios() const;
 
     // Reads a campaign from a file opened at its start and tells a failure by a message. The
@@ -123,7 +123,4 @@ public:
     SaveResult saveTo(const QString &path);
     // The file's bytes in order: the packed header, then every map as imported.
     std::vector<QByteArray> toPieces();
-
-    void removePrecondition(unsigned int index);
-    void switchPreconditions(unsigned int a, unsigned int b);
 };

@@ -41,11 +41,11 @@ struct VictoryCondition
 {
     quint8 type = 0; // 255 none
     std::array<quint8, 2> flags{};
-    quint16 object = 0;                // types 0 and 1: what is to be had
-    quint8 kind = 0;                   // types 2, 3 and 10: the byte in front
-    quint8 extra = 0;                  // type 3: the byte behind the other
-    qint32 amount = 0;                 // types 1, 2 and 12
-    std::array<quint8, 3> position{};  // types 3 to 7 and 10
+    quint16 object = 0;               // types 0 and 1: what is to be had
+    quint8 kind = 0;                  // types 2, 3 and 10: the byte in front
+    quint8 extra = 0;                 // type 3: the byte behind the other
+    qint32 amount = 0;                // types 1, 2 and 12
+    std::array<quint8, 3> position{}; // types 3 to 7 and 10
 };
 
 struct LossCondition

@@ -2,17 +2,16 @@
 // with. The payload of an option and of a bonus travels in a QVariant that holds the value class
 // of its type, so the classes are Qt meta types.
 //
-// The layout on the disk stands in start_options.cpp.
+// The layout on the disk stands in start_options_file.cpp.
 #pragma once
 
 #include <QMetaType>
 #include <QVariant>
 
 #include <array>
+#include <set>
 #include <vector>
 
-class QTableWidget;
-class QTableWidgetItem;
 class ScenarioData;
 
 struct BonusSpell
@@ -103,6 +102,14 @@ struct CmpScenarioStartOptions
     quint32 optionType = 0; // 0 none, 1 StartingBonusSet, 2 HeroCrossoverSet, 3 StartingHeroSet
     QVariant optionData;
 };
+
+// Makes the classes below known to Qt's meta types by name too. Does its work once.
+void registerStartOptionTypes();
+
+// True if the player can still be given a hero to start with: one that stands on the map for it
+// and isn't among `used`, or one that its main town brings forth. False without a map.
+bool playerCanTakeHero(const ScenarioData &scenario, const std::set<int> &used,
+                       unsigned int player);
 
 // Every field is compared. One exception stands: two building bonuses inside CmpStartingBonus
 // are always equal, whatever their buildings, and a bonus type above 7 equals nothing.

@@ -15,8 +15,25 @@ constexpr quint32 scenarios = 30000;
 // Inflated bytes of a campaign's first member: 30,000 scenarios with their bit arrays need 120 MB.
 constexpr qint64 campaignHeaderBytes = qint64(256) * 1024 * 1024;
 
+// What a campaign's header and records may take of that apart from prerequisites: texts, mostly.
+// For 30,000 scenarios that is 800 bytes each.
+constexpr qint64 campaignTextBytes = qint64(24) * 1024 * 1024;
+
+// What a bonus takes in memory, which is far more than in the file; counted as text.
+constexpr qint64 bonusBytes = 96;
+
+// Bits of an array that are made even where the file ends before them.
+constexpr quint32 bitsWithoutData = 65536;
+
+// A map file, packed as it is.
+constexpr qint64 mapBytes = qint64(1024) * 1024 * 1024;
+
 // Inflated bytes of a map that are looked at; a header is some kilobytes long.
-constexpr qint64 mapHeaderBytes = qint64(8) * 1024 * 1024;
+constexpr qint64 mapHeaderBytes = qint64(4) * 1024 * 1024;
+
+// All the headers of a campaign's maps together may take mapHeaderBytes, and this many times
+// their packed bytes. A header is much shorter than the body behind it, even packed.
+constexpr qint64 mapHeaderRatio = 8;
 
 // One unpacked entry of an archive. The largest pictures are a few megabytes.
 constexpr qint64 archiveEntryBytes = qint64(64) * 1024 * 1024;

@@ -1,0 +1,65 @@
+#include "document/embedded_map.h"
+
+#include "document/inflating_device.h"
+#include "gamedata/limits.h"
+
+#include <QDataStream>
+#include <QtEndian>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int trailerSize = 4; // a gzip member's last bytes: the unpacked size
+
+// How much of a map may be unpacked at most. A size that deflate can't have made is damage, and
+// so is everything that follows from it. Of a map that was cut short the last bytes tell nothing.
+qint64 unpackedBound(const QByteArray &map, bool whole)
+{
+    if (!whole)
+        return limits::mapHeaderBytes;
+    if (map.size() < trailerSize)
+        return 0;
+    const qint64 stated = qFromLittleEndian<quint32>(map.constData() + map.size() - trailerSize);
+    return stated <= limits::deflateRatio * map.size() ? stated : 0;
+}
+
+// Reads the header and answers how many bytes it took.
+qint64 readHeader(ScenarioData &scenario, qint64 bound)
+{
+    InflatingDevice device(scenario.compressedMap, InflatingDevice::Format::Embedded);
+    device.setLimit(bound);
+    QDataStream stream(&device);
+    stream.setByteOrder(QDataStream::LittleEndian);
+    scenario.ReadMapHeader(stream, false);
+    return device.delivered();
+}
+
+} // namespace
+
+bool readEmbeddedMaps(QFile &file, qint64 offset, std::vector<ScenarioData> &scenarios)
+{
+    const qint64 fileSize = file.isSequential() ? 0 : file.size();
+    qint64 allowance = limits::mapHeaderBytes;
+    for (ScenarioData &scenario : scenarios) {
+        if (scenario.mapSize == 0)
+            continue;
+        const qint64 promised = scenario.mapSize;
+        const qint64 size = std::clamp(fileSize - offset, qint64(0), promised);
+        if (size > limits::mapBytes)
+            return false;
+        if (size > 0 && file.seek(offset)) {
+            scenario.compressedMap = QByteArray(int(size), Qt::Uninitialized);
+            const qint64 got = file.read(scenario.compressedMap.data(), size);
+            scenario.compressedMap.truncate(int(std::max(qint64(0), got)));
+        }
+        offset += promised;
+        scenario.mapSize = quint32(scenario.compressedMap.size());
+        if (scenario.mapSize == 0)
+            continue;
+        allowance += limits::mapHeaderRatio * qint64(scenario.mapSize);
+        const qint64 bound = unpackedBound(scenario.compressedMap, scenario.mapSize == promised);
+        allowance -= readHeader(scenario, std::min({bound, limits::mapHeaderBytes, allowance}));
+    }
+    return true;
+}

@@ -1,0 +1,12 @@
+// The maps behind a campaign's header: their bytes, and the headers inside them.
+#pragma once
+
+#include "document/campaign_data.h"
+
+#include <QFile>
+
+// Reads the map of every scenario whose mapSize isn't 0, one behind the other from `offset` on.
+// compressedMap gets what the file still holds of it, and mapSize follows; mapHeader is set for
+// every map of which anything is there, with zeros where it can't be unpacked. False if a map is
+// too large to be held (limits::mapBytes).
+bool readEmbeddedMaps(QFile &file, qint64 offset, std::vector<ScenarioData> &scenarios);
