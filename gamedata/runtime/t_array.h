@@ -85,6 +85,7 @@ private:
     void assign(const TArray &other)
     {
         SetLength(other.length);
-        std::copy(other.data, other.data + other.length, data);
+        if (length > 0)
+            std::copy(other.data, other.data + length, data);
     }
 };

@@ -37,6 +37,15 @@ TString::TString(const char *text, int size)
     std::copy(text, text + length, data);
 }
 
+TString::TString(const TString &other) : TString(other.c_str(), other.length) {}
+
+TString &TString::operator=(const TString &other)
+{
+    TString copy(other);
+    swap(copy);
+    return *this;
+}
+
 void TString::SetLength(int n)
 {
     if (n < 0 || n == INT_MAX)

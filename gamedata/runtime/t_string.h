@@ -9,6 +9,11 @@ public:
     TString() = default;
     TString(const char *text); // a null pointer gives an empty string
     TString(const char *text, int size);
+    TString(const TString &other);
+    TString(TString &&other) noexcept = default;
+    TString &operator=(const TString &other);
+    TString &operator=(TString &&other) noexcept = default;
+    ~TString() = default;
 
     // Keeps the first n characters; new ones are zero.
     void SetLength(int n);
