@@ -1,0 +1,64 @@
+// A game folder as small as the editor can start in, with pictures of which every pixel is known.
+//
+// Campaign maps, by number:
+//
+//    3  "Two Keeps": ready-made pictures, regions "West Keep" at (10, 10) and "East Keep" at
+//       (100, 100), 30 by 20 pixels each, in colours as readyMadeColour says
+//    5  "Lost Sky": no archive has its background
+//    6  "Torn Map": no archive has its region's pictures
+//    7  "Blind Map": no archive has its region's masks
+//   24  "Home Shores": computed pictures, three regions in the colours of computedColour:
+//         "Alder Bay"   at (20, 30), 40 by 30
+//         "Birch Hill"  at (40, 40), 40 by 30, its upper left 10 by 10 transparent
+//         "Cedar Fen"   at (200, 300), 20 by 20, its upper left 5 by 5 transparent
+//   30  "Hidden Realm": of a layout that new campaigns aren't offered
+//
+// Backgrounds: 0 "plainone.pcx", 1 "plaintwo.pcx".
+#pragma once
+
+#include <QByteArray>
+#include <QColor>
+#include <QString>
+#include <QTemporaryDir>
+#include <QVector>
+
+namespace tiny {
+
+struct Scenario
+{
+    bool map = false;
+    unsigned colour = 2;
+};
+
+class Game
+{
+public:
+    // Writes the folder. Extra lines go into the settings' "Global Settings".
+    explicit Game(const QByteArray &globalSettings = "Language=0\r\n");
+
+    QString path() const { return m_dir.path(); }
+    QString filePath(const QString &name) const { return m_dir.filePath(name); }
+
+    // Makes it the game of this process: root folder, settings, tables, image cache. Once only.
+    void load() const;
+
+    // Writes a campaign file into the folder and answers its path.
+    QString addCampaign(const QString &name, const QByteArray &bytes) const;
+
+private:
+    QTemporaryDir m_dir;
+};
+
+// A campaign of the newest version. Without a map, `background` says what is behind it.
+QByteArray campaign(unsigned mapId, const QVector<Scenario> &scenarios);
+QByteArray campaignWithoutMap(int background, const QVector<Scenario> &scenarios);
+// The bytes as one gzip member.
+QByteArray gzip(const QByteArray &bytes);
+
+// Colours of backgrounds, by their pictures' names.
+QColor backgroundColour(const QString &name);
+QColor readyMadeColour(int region, int state, int colour);
+// The look of map 24's regions in colour 2, with its opacity.
+QColor computedColour(int state);
+
+} // namespace tiny
