@@ -53,6 +53,23 @@ QStringList archivePaths(const QDir &folder)
     return paths;
 }
 
+// Everything that the loaders add to instead of setting it.
+void clearTables()
+{
+    EditorData::lod_archives.clear();
+    EditorData::colors.clear();
+    EditorData::campaignInfo.clear();
+    EditorData::buildings.clear();
+    for (auto *names :
+         {&EditorData::artifacts, &EditorData::creatures, &EditorData::heroes,
+          &EditorData::secondarySkills, &EditorData::primarySkills, &EditorData::spells,
+          &EditorData::resources, &EditorData::jktext, &EditorData::backgrounds,
+          &EditorData::movieImages, &EditorData::musicNames, &EditorData::videoNames})
+        names->clear();
+    EditorData::editorText.clear();
+    EditorData::editorCmdText.clear();
+}
+
 void openArchives()
 {
     const QStringList paths = archivePaths(getGameDir(QStringLiteral("Data")));
@@ -71,6 +88,7 @@ void openArchives()
 
 void EditorData::OpenLods(unsigned int, QTextCodec *textCodec)
 {
+    clearTables();
     openArchives();
 
     initCreatures(textCodec);
@@ -107,6 +125,7 @@ QStringList EditorData::readTxtFile(const QString &name, QTextCodec *textCodec)
     return table_text::allLines(table_text::decoded(bytes.get(), size, textCodec));
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the signature is agreed
 void EditorData::parseTextSimple(std::map<int, QString> &target, QString name,
                                  QTextCodec *textCodec, bool dropLastLine)
 {

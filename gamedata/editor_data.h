@@ -57,7 +57,7 @@ public:
     static std::map<int, QString> videoNames;
     static std::map<int, std::map<int, QString>> buildings; // by town, -1 for any; by building
 
-    // Reads every archive's index and fills all tables. The language chooses nothing here.
+    // Reads every archive's index and fills all tables anew. The language chooses nothing here.
     static void OpenLods(unsigned int language, QTextCodec *codec);
 
     // The file's bytes from the first archive that has it, in a new buffer owned by the caller

@@ -23,6 +23,10 @@ constexpr qint64 entryBytes = sizeof(LodFile);
 // more than half a megabyte. The game's own archives fit into one.
 constexpr qint64 entriesPerRead = 16384;
 
+// Packed data is taken in pieces, since its size is the file's word and the result may need little
+// of it.
+constexpr qint64 packedPiece = qint64(256) * 1024;
+
 struct ArchivePriority
 {
     const char *baseName;
@@ -142,8 +146,7 @@ int inflateInto(char *target, int size, QFile &file, qint64 compressedSize)
     stream.next_out = reinterpret_cast<Bytef *>(target);
     stream.avail_out = uInt(size);
 
-    // Taken in pieces: the packed size is the file's word, and the result may need little of it.
-    std::vector<char> piece(size_t(std::min<qint64>(compressedSize, 256 * 1024)));
+    std::vector<char> piece(size_t(std::min(compressedSize, packedPiece)));
     int status = Z_OK;
     while (status == Z_OK && stream.avail_out > 0 && compressedSize > 0) {
         const qint64 got =
