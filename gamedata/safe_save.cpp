@@ -17,7 +17,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int longestLinkChain = 40; // as the kernel has it
+constexpr int longestLinkChain = 40;        // as the kernel has it
+constexpr std::size_t secondNameEnding = 7; // QSaveFile's ".XXXXXX"
 
 // What the system says of an error. Qt's own text is "Unknown error" after a short write.
 SaveResult failure(int code)
@@ -51,12 +52,24 @@ int syncToDisk(int handle)
     return errno;
 }
 
+fs::path folderOf(const fs::path &path)
+{
+    return path.has_parent_path() ? path.parent_path() : fs::path(".");
+}
+
+// QSaveFile finds out only when all is written: until then its file has no name on many systems.
+bool hasRoomForSecondName(const fs::path &path)
+{
+    const long longest = pathconf(folderOf(path).c_str(), _PC_NAME_MAX);
+    const std::size_t size = path.filename().native().size() + secondNameEnding;
+    return longest < 0 || size <= static_cast<std::size_t>(longest);
+}
+
 // Makes a rename in the folder last. The new content is in place already, so an error here says
 // nothing about the file.
 void syncFolderOf(const fs::path &path)
 {
-    const fs::path folder = path.has_parent_path() ? path.parent_path() : fs::path(".");
-    const int handle = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int handle = open(folderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (handle < 0)
         return;
     fsync(handle);
@@ -107,7 +120,7 @@ std::optional<SaveResult> saveBeside(const fs::path &path, const struct stat *ol
                                      const std::vector<QByteArray> &pieces)
 {
     QSaveFile file(QFile::decodeName(path.c_str()));
-    if (!file.open(QIODevice::WriteOnly))
+    if (!hasRoomForSecondName(path) || !file.open(QIODevice::WriteOnly))
         return std::nullopt;
     if (old)
         copyOwnerAndMode(file.handle(), *old);
