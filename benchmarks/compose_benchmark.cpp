@@ -124,6 +124,7 @@ bool measureRedraw()
     }
     const double cached = stopwatch::best(measureMilliseconds, [] {
         std::vector<QPixmap> pixmaps;
+        pixmaps.reserve(regions);
         for (unsigned region = 0; region < regions; ++region)
             pixmaps.push_back(QPixmap::fromImage(
                 *preloadArchive->getLargeGeneratedImage(0, region, regionUnselected, 2)));
@@ -131,6 +132,7 @@ bool measureRedraw()
     });
     const double plain = stopwatch::best(measureMilliseconds, [&] {
         std::vector<QPixmap> pixmaps;
+        pixmaps.reserve(regions);
         for (const QImage &image : pictures)
             pixmaps.push_back(QPixmap::fromImage(image));
         return pixmaps;

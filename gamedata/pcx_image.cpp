@@ -148,6 +148,7 @@ QImage ReadFromArray_16bit(char *record, qint64 size)
     return readPlain<quint16>(record, size, QImage::Format_RGB16, rgb16);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): a colour is as cheap as a reference to it
 QImage ReadFromArrayPalette(char *record, QColor key, qint64 size)
 {
     const Picture picture = openRecord(record, size, paletteRecord);
@@ -168,13 +169,13 @@ QImage ReadFromArrayPalette_Slow(char *record, QColor key, qint64 size)
     if (image.isNull())
         return {};
     // Colours compare equal only in the same model and with the same depth.
-    const QColor plainKey = QColor::fromRgba(key.rgba());
+    key = QColor::fromRgba(key.rgba());
     for (int y = 0; y < picture.height; ++y) {
         const uchar *source = picture.row(y, paletteRecord.bytesPerPixel);
         for (int x = 0; x < picture.width; ++x) {
-            const uchar *entry = picture.palette + 3 * source[x];
+            const uchar *entry = picture.palette + qptrdiff(3) * source[x];
             const QColor color(entry[0], entry[1], entry[2]);
-            image.setPixelColor(x, y, color == plainKey ? QColor(Qt::transparent) : color);
+            image.setPixelColor(x, y, color == key ? QColor(Qt::transparent) : color);
         }
     }
     return image;

@@ -30,6 +30,8 @@ class RegionBlendTest : public QObject
 {
     Q_OBJECT
 
+    std::unique_ptr<Stage> m_stage;
+
 private slots:
     void init() { m_stage = std::make_unique<Stage>(); }
     void cleanup() { m_stage.reset(); }
@@ -40,9 +42,6 @@ private slots:
     void randomMasksMatchTheSlowWay();
     void everyBlenderComputesEveryTint();
     void everyBlenderKeepsToTheRun();
-
-private:
-    std::unique_ptr<Stage> m_stage;
 };
 
 void RegionBlendTest::everyGlowAndBorderValueMatchesTheSlowWay_data()

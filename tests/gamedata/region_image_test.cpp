@@ -64,6 +64,8 @@ class RegionImageTest : public QObject
 {
     Q_OBJECT
 
+    std::unique_ptr<Stage> m_stage;
+
 private slots:
     void init() { m_stage = std::make_unique<Stage>(); }
     void cleanup() { m_stage.reset(); }
@@ -91,9 +93,6 @@ private slots:
     void missingPatternEndsTheProcessSilently();
     void unusedLookIsLogged();
     void masksAreReadOnceAndStayAsTheyAre();
-
-private:
-    std::unique_ptr<Stage> m_stage;
 };
 
 void RegionImageTest::playerColorsHaveTheirTints_data()
