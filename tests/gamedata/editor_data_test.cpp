@@ -111,6 +111,19 @@ private slots:
                               "E3sprite.lod", "Bar.lod", "E3bitmap.lod", "Foo.lod"}));
     }
 
+    void manyArchivesOfEqualRankKeepTheOrderOfTheirNames()
+    {
+        const GameFolder game;
+        QStringList expected;
+        for (int i = 10; i < 60; ++i)
+            expected.append(QStringLiteral("Extra%1.lod").arg(i));
+        for (int i = 0; i < expected.size(); ++i)
+            QVERIFY(game.write(expected[(i * 7) % expected.size()], archive({})));
+        QVERIFY(game.write(QStringLiteral("Ravn.lod"), archive({})));
+        QVERIFY(!lastWordsOfStart().isEmpty());
+        QCOMPARE(archiveNames(), QStringList("Ravn.lod") + expected);
+    }
+
     void onlyArchivesOfTheFolderItselfAreOpened()
     {
         const GameFolder game;

@@ -137,6 +137,17 @@ private slots:
         QCOMPARE(QByteArray(archive.files[QStringLiteral("a.txt")].name), QByteArray("a.TXT"));
     }
 
+    void lastOfManyEqualNamesStays()
+    {
+        std::vector<game_files::ArchiveEntry> entries(300);
+        for (int i = 0; i < 300; ++i)
+            entries[size_t(i)] = {i % 3 ? "Same.txt" : "other.pcx", QByteArray::number(i), Raw};
+        const LodArchive archive = read(game_files::archive(entries));
+        QCOMPARE(archive.files.size(), 2);
+        QCOMPARE(fileData(archive, QStringLiteral("same.txt")).bytes, QByteArray("299"));
+        QCOMPARE(fileData(archive, QStringLiteral("other.pcx")).bytes, QByteArray("297"));
+    }
+
     void manyEntriesAreAllFound()
     {
         // More than one piece of the index.
