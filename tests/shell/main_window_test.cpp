@@ -1,0 +1,439 @@
+// The window itself: its form, menus, hints, size and the dialog about the program.
+#include "tests/shell/window_fixture.h"
+
+#include <QDialogButtonBox>
+#include <QLayout>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QToolBar>
+
+class MainWindowTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { fixture = std::make_unique<WindowFixture>(); }
+    void init() { fixture->reset(); }
+
+    void actionsHaveTextsShortcutsAndIcons_data();
+    void actionsHaveTextsShortcutsAndIcons();
+    void menusHoldTheirActionsInOrder_data();
+    void menusHoldTheirActionsInOrder();
+    void menuTitles();
+    void toolBarHoldsFourActions();
+    void toolTipsComeFromTheGameAndGoToTheHint_data();
+    void toolTipsComeFromTheGameAndGoToTheHint();
+    void convertActionHasNoHint();
+    void recentFileActionsAreHiddenAtFirst();
+    void commandsWithoutDialogsAreDisabled();
+    void statusBarHoldsHintLineAndRegion();
+    void pagesAreTwoEmptyOnesAndTheMap();
+    void startsAsUntitledDummyOfMap24();
+    void titleOfTheForm();
+    void returnKeysHaveWindowShortcuts();
+    void opensWithTheWholeMapInSight();
+    void smallerWindowGetsScrollBars_data();
+    void smallerWindowGetsScrollBars();
+    void largerWindowKeepsTheViewAtThePicture();
+    void leavingMaximisedRestoresTheFirstSize();
+    void longHintsDoNotWidenTheWindow();
+    void aboutTellsTheGamesTexts();
+    void windowHasTheIcon();
+
+private:
+    std::unique_ptr<WindowFixture> fixture;
+};
+
+void MainWindowTest::actionsHaveTextsShortcutsAndIcons_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("shortcut");
+    QTest::addColumn<QString>("icon");
+    QTest::newRow("actionNew") << "&New..."
+                               << "Ctrl+N"
+                               << ":/icons/new_file.svg";
+    QTest::newRow("actionOpen") << "Open..."
+                                << "Ctrl+O"
+                                << ":/icons/open.svg";
+    QTest::newRow("actionSave") << "Save"
+                                << "Ctrl+S"
+                                << ":/icons/save.svg";
+    QTest::newRow("actionSave_As") << "Save As..."
+                                   << ""
+                                   << "";
+    QTest::newRow("actionExport_Texts") << "Export Texts..."
+                                        << ""
+                                        << "";
+    QTest::newRow("actionImport_Texts") << "Import Texts..."
+                                        << ""
+                                        << "";
+    QTest::newRow("actionRefresh_Scenario_Maps") << "Refresh Scenario Maps"
+                                                 << "Ctrl+R"
+                                                 << "";
+    QTest::newRow("actionExport_Scenario_Maps") << "Export Scenario Maps"
+                                                << "Ctrl+E"
+                                                << "";
+    QTest::newRow("actionExit") << "Exit"
+                                << ""
+                                << "";
+    QTest::newRow("campaignProperties") << "Campaign Properties"
+                                        << "Ctrl+Enter"
+                                        << "";
+    QTest::newRow("scenarioProperties") << "Scenario Properties"
+                                        << "Enter"
+                                        << ":/icons/edit.svg";
+    QTest::newRow("actionAbout") << "About Campaign Editor..."
+                                 << ""
+                                 << "";
+    QTest::newRow("actionConvertCmp") << "Convert campaign..."
+                                      << ""
+                                      << "";
+}
+
+void MainWindowTest::actionsHaveTextsShortcutsAndIcons()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, shortcut);
+    QFETCH(QString, icon);
+    MainWindow window(nullptr);
+    const QAction *found = action(window, QTest::currentDataTag());
+    QVERIFY(found);
+    QCOMPARE(found->text(), text);
+    QCOMPARE(found->shortcut().toString(QKeySequence::PortableText), shortcut);
+    QCOMPARE(found->icon().isNull(), icon.isEmpty());
+    if (!icon.isEmpty())
+        QCOMPARE(found->icon().pixmap(25, 25).toImage(), QIcon(icon).pixmap(25, 25).toImage());
+}
+
+void MainWindowTest::menusHoldTheirActionsInOrder_data()
+{
+    QTest::addColumn<QStringList>("names");
+    const QString line = "-";
+    const QString recent = "recent";
+    QTest::newRow("menuFile") << QStringList{"actionNew",
+                                             "actionOpen",
+                                             "actionSave",
+                                             "actionSave_As",
+                                             line,
+                                             "actionExport_Texts",
+                                             "actionImport_Texts",
+                                             line,
+                                             "actionRefresh_Scenario_Maps",
+                                             "actionExport_Scenario_Maps",
+                                             line,
+                                             recent,
+                                             recent,
+                                             recent,
+                                             recent,
+                                             recent,
+                                             line,
+                                             "actionExit"};
+    QTest::newRow("menuEdit") << QStringList{"campaignProperties", "scenarioProperties",
+                                             "actionConvertCmp"};
+    QTest::newRow("menuHelp") << QStringList{"actionAbout"};
+}
+
+void MainWindowTest::menusHoldTheirActionsInOrder()
+{
+    QFETCH(QStringList, names);
+    MainWindow window(nullptr);
+    QStringList found;
+    const auto actions = window.findChild<QMenu *>(QTest::currentDataTag())->actions();
+    for (const QAction *entry : actions) {
+        if (entry->isSeparator())
+            found << "-";
+        else
+            found << (entry->objectName().isEmpty() ? "recent" : entry->objectName());
+    }
+    QCOMPARE(found, names);
+}
+
+void MainWindowTest::menuTitles()
+{
+    MainWindow window(nullptr);
+    QStringList titles;
+    const auto menus = window.menuBar()->actions();
+    for (const QAction *menu : menus)
+        titles << menu->text();
+    QCOMPARE(titles, QStringList({"File", "Edit", "Help"}));
+    QCOMPARE(window.menuBar()->objectName(), QString("menuBar"));
+    QCOMPARE(window.menuBar()->contextMenuPolicy(), Qt::PreventContextMenu);
+}
+
+void MainWindowTest::toolBarHoldsFourActions()
+{
+    MainWindow window(nullptr);
+    const auto *bar = window.findChild<QToolBar *>("toolBar");
+    QVERIFY(bar);
+    QStringList found;
+    const auto actions = bar->actions();
+    for (const QAction *entry : actions)
+        found << (entry->isSeparator() ? "-" : entry->objectName());
+    QCOMPARE(found,
+             QStringList({"actionNew", "actionOpen", "actionSave", "-", "scenarioProperties"}));
+    QVERIFY(!bar->isMovable());
+    QVERIFY(bar->isFloatable());
+    QCOMPARE(bar->allowedAreas(), Qt::ToolBarAreas(Qt::NoToolBarArea));
+    QCOMPARE(bar->iconSize(), QSize(25, 25));
+    QCOMPARE(bar->toolButtonStyle(), Qt::ToolButtonIconOnly);
+    QCOMPARE(bar->contextMenuPolicy(), Qt::PreventContextMenu);
+    QCOMPARE(window.toolBarArea(const_cast<QToolBar *>(bar)), Qt::TopToolBarArea);
+}
+
+void MainWindowTest::toolTipsComeFromTheGameAndGoToTheHint_data()
+{
+    QTest::addColumn<QString>("hint");
+    QTest::newRow("actionNew") << "Hint 1";
+    QTest::newRow("actionOpen") << "Hint 2";
+    QTest::newRow("actionSave") << "Hint 3";
+    QTest::newRow("actionSave_As") << "Hint 4";
+    QTest::newRow("actionExport_Texts") << "Hint 20";
+    QTest::newRow("actionImport_Texts") << "Hint 21";
+    QTest::newRow("actionExport_Scenario_Maps") << "Hint 17";
+    QTest::newRow("actionRefresh_Scenario_Maps") << "Hint 16";
+    QTest::newRow("actionExit") << "Hint 6";
+    QTest::newRow("scenarioProperties") << "Hint 19";
+    QTest::newRow("campaignProperties") << "Hint 18";
+    QTest::newRow("actionAbout") << "Hint 5";
+}
+
+void MainWindowTest::toolTipsComeFromTheGameAndGoToTheHint()
+{
+    QFETCH(QString, hint);
+    MainWindow window(nullptr);
+    QAction *found = action(window, QTest::currentDataTag());
+    QCOMPARE(found->toolTip(), hint);
+    QCOMPARE(hintOf(window), QString("Hint 0"));
+    found->hover();
+    QCOMPARE(hintOf(window), hint);
+}
+
+void MainWindowTest::convertActionHasNoHint()
+{
+    MainWindow window(nullptr);
+    action(window, "actionConvertCmp")->hover();
+    QCOMPARE(hintOf(window), QString("Hint 0"));
+}
+
+void MainWindowTest::recentFileActionsAreHiddenAtFirst()
+{
+    MainWindow window(nullptr);
+    const auto entries = window.findChild<QMenu *>("menuFile")->actions();
+    for (int i = 11; i < 16; ++i) {
+        QVERIFY(!entries[i]->isVisible());
+        QCOMPARE(entries[i]->text(), QString("File"));
+        QCOMPARE(entries[i]->toolTip(), QString("Hint 9"));
+        entries[i]->hover();
+        QCOMPARE(hintOf(window), QString("Hint 9"));
+    }
+}
+
+void MainWindowTest::commandsWithoutDialogsAreDisabled()
+{
+    MainWindow window(nullptr);
+    for (const char *name : {"actionExport_Texts", "actionImport_Texts",
+                             "actionRefresh_Scenario_Maps", "actionExport_Scenario_Maps",
+                             "campaignProperties", "scenarioProperties", "actionConvertCmp"})
+        QVERIFY2(!action(window, name)->isEnabled(), name);
+    for (const char *name :
+         {"actionNew", "actionOpen", "actionSave", "actionSave_As", "actionExit", "actionAbout"})
+        QVERIFY2(action(window, name)->isEnabled(), name);
+}
+
+void MainWindowTest::statusBarHoldsHintLineAndRegion()
+{
+    MainWindow window(nullptr);
+    QVERIFY(show(window));
+    const auto *hint = statusLabel(window, 0);
+    const auto *region = statusLabel(window, 1);
+    QVERIFY(hint && region);
+    QCOMPARE(hint->text(), QString("Hint 0"));
+    QCOMPARE(region->text(), QString("Alder Bay"));
+    QVERIFY(hint->x() < region->x());
+    QCOMPARE(hint->font().pointSize(), 8);
+    QCOMPARE(region->font().pointSize(), 8);
+    QCOMPARE(hint->textFormat(), Qt::PlainText);
+    QFrame *line = nullptr;
+    const auto frames = window.findChild<QStatusBar *>("statusBar")->findChildren<QFrame *>();
+    for (QFrame *frame : frames) {
+        if (frame->frameShape() == QFrame::VLine)
+            line = frame;
+    }
+    QVERIFY(line);
+    QCOMPARE(int(line->frameShape()), 5);
+    QCOMPARE(int(line->frameShadow()), 0x30);
+    QVERIFY(line->x() > hint->x() && line->x() < region->x());
+}
+
+void MainWindowTest::pagesAreTwoEmptyOnesAndTheMap()
+{
+    MainWindow window(nullptr);
+    const auto *pages = window.findChild<QStackedWidget *>("stackedWidget");
+    QCOMPARE(pages->count(), 3);
+    QCOMPARE(pages->widget(0)->objectName(), QString("page"));
+    QCOMPARE(pages->widget(1)->objectName(), QString("page_2"));
+    QCOMPARE(pages->currentWidget()->objectName(), QString("MapBrowser"));
+    QCOMPARE(pages->frameShape(), QFrame::NoFrame);
+    QCOMPARE(pages->lineWidth(), 0);
+    QCOMPARE(pages->parentWidget()->objectName(), QString("centralWidget"));
+}
+
+void MainWindowTest::startsAsUntitledDummyOfMap24()
+{
+    MainWindow window(nullptr);
+    QCOMPARE(window.windowTitle(), QString("Untitled.e3c - Tiny Campaign Editor"));
+    QCOMPARE(window.campaignId, 24U);
+    QCOMPARE(window.currentRegion, 0U);
+    QCOMPARE(EditorData::info.campaign, 24U);
+    QVERIFY(!EditorData::info.modified);
+    QCOMPARE(window.getRegionColor(0), 2);
+    QCOMPARE(window.getRegionColor(3), 2);
+    QCOMPARE(window.getRegionColor(-1), 2);
+}
+
+void MainWindowTest::titleOfTheForm()
+{
+    MainWindow window(nullptr);
+    EditorData::info.modified = true;
+    window.updateWindowTitle();
+    QCOMPARE(window.windowTitle(), QString("Untitled.e3c - Tiny Campaign Editor"));
+}
+
+void MainWindowTest::returnKeysHaveWindowShortcuts()
+{
+    MainWindow window(nullptr);
+    QStringList keys;
+    const auto shortcuts = window.findChildren<QShortcut *>();
+    for (const QShortcut *shortcut : shortcuts) {
+        QCOMPARE(shortcut->context(), Qt::WindowShortcut);
+        keys << shortcut->key().toString(QKeySequence::PortableText);
+    }
+    QCOMPARE(keys, QStringList({"Return", "Ctrl+Return"}));
+}
+
+void MainWindowTest::opensWithTheWholeMapInSight()
+{
+    MainWindow window(nullptr);
+    QVERIFY(show(window));
+    QGraphicsView *view = mapView(window);
+    QCOMPARE(view->size(), QSize(456, 600));
+    QCOMPARE(view->viewport()->size(), QSize(456, 600));
+    QCOMPARE(view->mapFromScene(0, 0), QPoint(0, 0));
+    QCOMPARE(view->parentWidget()->size(), QSize(456, 600));
+    QCOMPARE(window.centralWidget()->size(), QSize(456, 600));
+    QCOMPARE(window.width(), 456);
+    QVERIFY(window.height() >= 685);
+    QCOMPARE(view->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    QCOMPARE(view->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    const QImage shown = window.grab().toImage();
+    const QPoint corner = view->mapTo(&window, QPoint(0, 0));
+    const QColor colour = tiny::backgroundColour("backhome.pcx");
+    QCOMPARE(shown.pixelColor(corner), colour);
+    QCOMPARE(shown.pixelColor(corner + QPoint(455, 599)), colour);
+}
+
+void MainWindowTest::smallerWindowGetsScrollBars_data()
+{
+    QTest::addColumn<QSize>("change");
+    QTest::addColumn<QSize>("view");
+    QTest::addColumn<bool>("bars");
+    QTest::newRow("narrower") << QSize(-56, 0) << QSize(400, 600) << true;
+    QTest::newRow("lower") << QSize(0, -100) << QSize(456, 500) << true;
+    QTest::newRow("both") << QSize(-106, -200) << QSize(350, 400) << true;
+    QTest::newRow("narrower and higher") << QSize(-56, 50) << QSize(400, 600) << true;
+    QTest::newRow("larger") << QSize(100, 100) << QSize(456, 600) << false;
+}
+
+void MainWindowTest::smallerWindowGetsScrollBars()
+{
+    QFETCH(QSize, change);
+    QFETCH(QSize, view);
+    QFETCH(bool, bars);
+    MainWindow window(nullptr);
+    QVERIFY(show(window));
+    const QSize first = window.size();
+    window.resize(first + change);
+    QTRY_COMPARE(mapView(window)->size(), view);
+    QCOMPARE(mapView(window)->parentWidget()->size(), view);
+    const auto policy = bars ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff;
+    QCOMPARE(mapView(window)->horizontalScrollBarPolicy(), policy);
+    QCOMPARE(mapView(window)->verticalScrollBarPolicy(), policy);
+    window.resize(first);
+    QTRY_COMPARE(mapView(window)->size(), QSize(456, 600));
+    QCOMPARE(mapView(window)->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+}
+
+void MainWindowTest::largerWindowKeepsTheViewAtThePicture()
+{
+    MainWindow window(nullptr);
+    QVERIFY(show(window));
+    window.resize(900, 900);
+    QTRY_COMPARE(mapView(window)->size(), QSize(456, 600));
+    // A new layout must not stretch the page either.
+    window.centralWidget()->layout()->invalidate();
+    window.centralWidget()->layout()->activate();
+    QCOMPARE(mapView(window)->size(), QSize(456, 600));
+    QCOMPARE(mapView(window)->mapFromScene(0, 0), QPoint(0, 0));
+}
+
+void MainWindowTest::leavingMaximisedRestoresTheFirstSize()
+{
+    MainWindow window(nullptr);
+    QVERIFY(show(window));
+    const QSize first = window.size();
+    window.resize(600, 700);
+    window.showMaximized();
+    QTRY_VERIFY(window.windowState() & Qt::WindowMaximized);
+    window.showNormal();
+    QTRY_COMPARE(window.size(), first);
+}
+
+void MainWindowTest::longHintsDoNotWidenTheWindow()
+{
+    MainWindow window(nullptr);
+    QVERIFY(show(window));
+    const QSize first = window.size();
+    action(window, "actionNew")->setToolTip(QString("long ").repeated(60));
+    action(window, "actionNew")->hover();
+    QCoreApplication::processEvents();
+    QCOMPARE(window.size(), first);
+    QVERIFY(window.minimumSizeHint().width() <= 456);
+}
+
+void MainWindowTest::aboutTellsTheGamesTexts()
+{
+    MainWindow window(nullptr);
+    QVERIFY(show(window));
+    NextDialog about([](QWidget *dialog) {
+        QCOMPARE(dialog->objectName(), QString("AboutCmpEd"));
+        QCOMPARE(dialog->windowTitle(), QString("About Campaign Editor"));
+        QVERIFY(dialog->isModal());
+        QVERIFY(!(dialog->windowFlags() & Qt::WindowContextHelpButtonHint));
+        QCOMPARE(dialog->minimumSize(), dialog->maximumSize());
+        QCOMPARE(dialog->size(), QSize(480, 301));
+        const auto *label = dialog->findChild<QLabel *>("label");
+        QCOMPARE(label->text(), QString("Tiny Campaign Editor\nVersion Ravn\n\nText 7\n\nText 1"));
+        QVERIFY(label->wordWrap());
+        QCOMPARE(label->textFormat(), Qt::PlainText);
+        QVERIFY(dialog->findChild<QFrame *>("frame"));
+        const auto *icon = dialog->findChild<QLabel *>("icon");
+        QVERIFY(icon->pixmap(Qt::ReturnByValue).width() > 0);
+        QVERIFY(icon->hasScaledContents());
+        clickOn(dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Ok));
+    });
+    action(window, "actionAbout")->trigger();
+}
+
+void MainWindowTest::windowHasTheIcon()
+{
+    MainWindow window(nullptr);
+    QVERIFY(!window.windowIcon().isNull());
+    QCOMPARE(window.windowIcon().pixmap(32, 32).toImage(),
+             QIcon(":/icons/cmped.ico").pixmap(32, 32).toImage());
+}
+
+QTEST_MAIN(MainWindowTest)
+#include "main_window_test.moc"

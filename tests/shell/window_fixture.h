@@ -1,0 +1,104 @@
+// What the window tests share: the tiny game, loaded once, and settings in a folder of their own.
+#pragma once
+
+#include "gamedata/editor_data.h"
+#include "gamedata/ini_file.h"
+#include "shell/campaign_map_view.h"
+#include "shell/campaign_region_item.h"
+#include "shell/editor_resources.h"
+#include "shell/main_window.h"
+#include "shell/message_reporter.h"
+#include "tests/support/message_boxes.h"
+#include "tests/support/tiny_game.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QGraphicsScene>
+#include <QLabel>
+#include <QSettings>
+#include <QStatusBar>
+#include <QTest>
+
+class WindowFixture
+{
+public:
+    WindowFixture()
+    {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
+        initEditorResources();
+        reportWithMessageBoxes();
+        game.load();
+    }
+
+    // Before each test: nothing modified, no file ever opened, no folder used.
+    void reset()
+    {
+        EditorData::info = {};
+        ini->SetStringVal("Campaign Editor", "Path", "");
+        QSettings("cmped_info", "").clear();
+    }
+
+    tiny::Game game;
+
+private:
+    QTemporaryDir m_settings;
+};
+
+// Shows a window and waits until clicks reach it.
+inline bool show(QWidget &window)
+{
+    window.show();
+    return QTest::qWaitForWindowExposed(&window);
+}
+
+inline QGraphicsView *mapView(MainWindow &window)
+{
+    return window.findChild<QGraphicsView *>("graphicsView");
+}
+
+// Region items in the order of the regions.
+inline QVector<CampaignRegionItem *> regionsOf(MainWindow &window)
+{
+    QVector<CampaignRegionItem *> regions;
+    const auto items = mapView(window)->scene()->items(Qt::AscendingOrder);
+    for (QGraphicsItem *item : items) {
+        if (item->data(256) == 1)
+            regions.append(static_cast<CampaignRegionItem *>(item));
+    }
+    return regions;
+}
+
+// The status bar's labels: the hint, then the region. A line is a frame and no label.
+inline QLabel *statusLabel(MainWindow &window, int index)
+{
+    auto *bar = window.findChild<QStatusBar *>("statusBar");
+    return bar->findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly).value(index);
+}
+
+inline QString hintOf(MainWindow &window)
+{
+    return statusLabel(window, 0)->text();
+}
+
+inline QString regionNameIn(MainWindow &window)
+{
+    return statusLabel(window, 1)->text();
+}
+
+inline QAction *action(MainWindow &window, const char *name)
+{
+    return window.findChild<QAction *>(name);
+}
+
+// A colour as it comes out of a pixmap, which rounds half-transparent ones.
+inline QColor throughPixmap(const QColor &colour)
+{
+    QImage image(1, 1, QImage::Format_ARGB32);
+    image.setPixelColor(0, 0, colour);
+    return QPixmap::fromImage(image).toImage().pixelColor(0, 0);
+}
+
+inline QColor pixelOf(const QGraphicsPixmapItem *item, int x, int y)
+{
+    return item->pixmap().toImage().pixelColor(x, y);
+}
