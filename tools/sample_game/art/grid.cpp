@@ -164,4 +164,14 @@ QRect boundingBox(const Mask &mask)
     return right < 0 ? QRect() : QRect(QPoint(left, top), QPoint(right, bottom));
 }
 
+Mask cropped(const Mask &mask, const QRect &part)
+{
+    Mask result(part.width(), part.height());
+    for (int y = 0; y < part.height(); ++y)
+        for (int x = 0; x < part.width(); ++x)
+            if (mask.contains(x + part.left(), y + part.top()))
+                result.at(x, y) = mask.at(x + part.left(), y + part.top());
+    return result;
+}
+
 } // namespace art

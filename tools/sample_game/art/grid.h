@@ -48,4 +48,7 @@ void keepLargestPart(Mask &mask);
 int countOf(const Mask &mask);
 QRect boundingBox(const Mask &mask); // empty for an empty mask
 
+// A part of the mask; what lies outside of it reads as 0.
+Mask cropped(const Mask &mask, const QRect &part);
+
 } // namespace art

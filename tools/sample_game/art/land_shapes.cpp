@@ -113,18 +113,19 @@ void layLand(const ThemeLook &look, const QVector<QPointF> &sites, quint32 seed,
         }
 }
 
-QPoint seatOf(const Mask &mask)
+QPoint seatOf(const Mask &mask, const QRect &box)
 {
-    const Field depth = distanceTo(mask, 0);
+    const QRect part = box.adjusted(-1, -1, 1, 1);
+    const Field depth = distanceTo(cropped(mask, part), 0);
     QPoint best;
     double bestDepth = -1;
-    for (int y = 0; y < mask.height(); ++y)
-        for (int x = 0; x < mask.width(); ++x)
+    for (int y = 0; y < part.height(); ++y)
+        for (int x = 0; x < part.width(); ++x)
             if (depth.at(x, y) > bestDepth) {
                 bestDepth = depth.at(x, y);
                 best = {x, y};
             }
-    return best;
+    return part.topLeft() + best;
 }
 
 RegionShape finishRegion(Mask mask)
@@ -132,7 +133,7 @@ RegionShape finishRegion(Mask mask)
     keepLargestPart(mask);
     RegionShape shape;
     shape.box = boundingBox(mask);
-    shape.seat = seatOf(mask);
+    shape.seat = seatOf(mask, shape.box);
     shape.mask = std::move(mask);
     return shape;
 }

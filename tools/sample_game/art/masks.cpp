@@ -34,10 +34,10 @@ void paintMasks(const RegionShape &shape, PaintedRegion &region)
         *mask = QImage(box.size(), QImage::Format_ARGB32);
         mask->fill(Qt::transparent);
     }
-    const Field depths = distanceTo(shape.mask, 0);
+    const Field depths = distanceTo(cropped(shape.mask, box), 0);
     for (int y = 0; y < box.height(); ++y)
         for (int x = 0; x < box.width(); ++x) {
-            const double depth = depths.at(x + box.left(), y + box.top());
+            const double depth = depths.at(x, y);
             if (depth <= 0)
                 continue;
             region.fill.setPixel(x, y, qRgb(255, 255, 255));

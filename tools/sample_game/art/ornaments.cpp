@@ -138,9 +138,15 @@ void drawShip(QPainter &painter, const ThemeLook &look, QPointF waterline, doubl
     }
     strokeLine(painter, polygon({at(44, 20), at(66, 36)}), ink, 1.1);
     inkShape(painter,
-             polygon({at(-54, 34), at(-46, 4), at(-34, -6), at(34, -6), at(52, 22), at(36, 14),
-                      at(-30, 14), at(-36, 32)}),
+             polygon({at(-56, 34), at(-50, 8), at(-42, -3), at(-30, -8), at(26, -8), at(38, 0),
+                      at(54, 24), at(36, 15), at(0, 11), at(-30, 15), at(-36, 33)}),
              QColor(122, 78, 44), ink, 1.0);
+    fillShape(painter,
+              polygon({at(-49, 4), at(-42, -3), at(-30, -8), at(26, -8), at(38, 0), at(40, 4),
+                       at(0, -1), at(-30, 1)}),
+              QColor(78, 46, 28));
+    strokeLine(painter, polygon({at(-52, 24), at(-32, 10), at(0, 6), at(44, 13)}),
+               QColor(206, 158, 78), size * 0.014);
     for (const double y : {-8.0, -14.0})
         strokeLine(painter, polygon({at(-56 - y, y), at(-20, y - 3), at(14, y), at(56 + y, y - 3)}),
                    toColor(look.foam, 190), 1.0);

@@ -122,18 +122,28 @@ private:
     std::vector<int> found_;
 };
 
+// The opaque pixels of every step-th column.
+std::vector<Channels> sampled(const QImage &image, int step)
+{
+    std::vector<Channels> pixels;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto *row = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        for (int x = y % step; x < image.width(); x += step)
+            if (qAlpha(row[x]) != 0)
+                pixels.push_back(channelsOf(row[x]));
+    }
+    return pixels;
+}
+
 } // namespace
 
 QImage quantised(const QImage &image, int colours)
 {
+    constexpr int kStep = 3; // tells the colours of a large picture well enough
     QImage result = image.convertToFormat(QImage::Format_ARGB32);
-    std::vector<Channels> pixels;
-    for (int y = 0; y < result.height(); ++y) {
-        const auto *row = reinterpret_cast<const QRgb *>(result.constScanLine(y));
-        for (int x = 0; x < result.width(); ++x)
-            if (qAlpha(row[x]) != 0)
-                pixels.push_back(channelsOf(row[x]));
-    }
+    std::vector<Channels> pixels = sampled(result, kStep);
+    if (pixels.size() < static_cast<size_t>(colours))
+        pixels = sampled(result, 1);
     Matcher matcher(paletteOf(std::move(pixels), colours));
     for (int y = 0; y < result.height(); ++y) {
         auto *row = reinterpret_cast<QRgb *>(result.scanLine(y));

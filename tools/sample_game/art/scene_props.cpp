@@ -153,6 +153,38 @@ void drawBareTree(QPainter &painter, QPointF foot, double size, const Tone &tone
                random);
 }
 
+void drawPalmTree(QPainter &painter, QPointF foot, double size, Random &random)
+{
+    const double lean = random.range(-0.22, 0.22) * size;
+    const auto along = [&](double t) { return foot + QPointF(lean * t * t, -size * t); };
+    for (int i = 0; i < 14; ++i) {
+        const double t = i / 14.0;
+        strokeLine(painter, polygon({along(t), along(t + 0.085)}),
+                   toColor(Tone{128, 86, 52} * (i % 2 == 0 ? 1.0 : 0.78)),
+                   size * (0.07 - 0.03 * t));
+    }
+    const QPointF top = along(1);
+    for (int i = 0; i < 11; ++i) {
+        const double side = (i - 5) / 5.0;
+        const double reach = size * random.range(0.42, 0.52);
+        const QPointF tip = top + QPointF(side * reach, reach * (1.1 * side * side - 0.42));
+        const QPointF bow = (top + tip) * 0.5 - QPointF(0, size * 0.16);
+        QPolygonF rib;
+        for (int k = 0; k <= 12; ++k) {
+            const double t = k / 12.0;
+            rib.append(top * ((1 - t) * (1 - t)) + bow * (2 * t * (1 - t)) + tip * (t * t));
+        }
+        const Tone leaf =
+            mix({54, 92, 48}, {150, 164, 70}, random.unit() * (i % 2 == 0 ? 0.4 : 0.9));
+        strokeLine(painter, rib, toColor(leaf * 0.8), size * 0.018);
+        for (int k = 1; k < rib.size(); ++k)
+            for (const double way : {-0.5, 0.6})
+                strokeLine(painter,
+                           polygon({rib[k], rib[k] + QPointF(way * size * 0.05, size * 0.085)}),
+                           toColor(leaf), size * 0.014);
+    }
+}
+
 void drawColumn(QPainter &painter, const StoneTones &tones, QPointF foot, double height,
                 bool broken)
 {
@@ -182,6 +214,7 @@ void drawArch(QPainter &painter, const StoneTones &tones, QPointF foot, double w
     QPainterPath path;
     path.addRect(foot.x() - width / 2, foot.y() - height, width, height);
     QPainterPath hole;
+    hole.setFillRule(Qt::WindingFill);
     const double inner = width * 0.56;
     hole.addRect(foot.x() - inner / 2, foot.y() - height * 0.55, inner, height * 0.56);
     hole.addEllipse(foot - QPointF(0, height * 0.55), inner / 2, inner / 2);
@@ -220,9 +253,13 @@ void drawDragon(QPainter &painter, QPointF centre, double span, const Tone &tone
     wings.quadTo(at(38, 52), at(10, 8));
     wings.closeSubpath();
     QPainterPath body;
-    body.moveTo(at(44, 22));
-    body.quadTo(at(30, 24), at(22, 12));
-    body.quadTo(at(12, 2), at(-8, 6));
+    body.moveTo(at(92, -10));
+    body.lineTo(at(80, 1));
+    body.lineTo(at(70, 9));
+    body.lineTo(at(72, 1));
+    body.quadTo(at(58, -2), at(44, -8));
+    body.quadTo(at(22, -6), at(8, 8));
+    body.lineTo(at(-8, 6));
     body.quadTo(at(-26, 0), at(-40, -22));
     body.quadTo(at(-50, -40), at(-70, -42));
     body.lineTo(at(-84, -34));
@@ -230,11 +267,10 @@ void drawDragon(QPainter &painter, QPointF centre, double span, const Tone &tone
     body.lineTo(at(-66, -50));
     body.quadTo(at(-42, -48), at(-30, -28));
     body.quadTo(at(-14, -14), at(4, -12));
-    body.quadTo(at(24, -10), at(34, 8));
-    body.lineTo(at(56, 10));
-    body.lineTo(at(62, 15));
-    body.lineTo(at(50, 24));
-    body.lineTo(at(46, 32));
+    body.quadTo(at(24, -20), at(46, -20));
+    body.quadTo(at(62, -18), at(70, -13));
+    body.lineTo(at(88, -17));
+    body.lineTo(at(78, -10));
     body.closeSubpath();
     painter.setPen(Qt::NoPen);
     painter.setBrush(toColor(tone));
@@ -283,16 +319,16 @@ void drawBanner(QPainter &painter, QPointF foot, double height, const Tone &clot
     const auto edge = [&](double t, double down) {
         return top + QPointF(t * long_, down + height * 0.035 * qSin(wave + t * 5.2) * (0.3 + t));
     };
-    constexpr int kParts = 14;
+    const auto taper = [&](double t) { return drop * 0.26 * t * t; };
+    constexpr int kParts = 28;
     for (int i = 0; i < kParts; ++i) {
         const double a = static_cast<double>(i) / kParts;
         const double b = static_cast<double>(i + 1) / kParts + 0.006;
-        const double notch = 0.5 * drop * 0.36 * (a > 0.7 ? (a - 0.7) / 0.3 : 0);
         const double light = 0.86 + 0.3 * qCos(wave + a * 5.2);
-        fillShape(
-            painter,
-            polygon({edge(a, notch), edge(b, notch), edge(b, drop - notch), edge(a, drop - notch)}),
-            toColor(cloth * light));
+        fillShape(painter,
+                  polygon({edge(a, taper(a)), edge(b, taper(b)), edge(b, drop - taper(b)),
+                           edge(a, drop - taper(a))}),
+                  toColor(cloth * light));
         fillShape(painter,
                   polygon({edge(a, drop * 0.42), edge(b, drop * 0.42), edge(b, drop * 0.58),
                            edge(a, drop * 0.58)}),

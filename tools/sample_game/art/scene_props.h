@@ -21,6 +21,7 @@ void drawHouse(QPainter &painter, const StoneTones &tones, QPointF foot, double 
 void drawPine(QPainter &painter, QPointF foot, double size, const Tone &tone, const Tone &lit,
               Random &random);
 void drawBareTree(QPainter &painter, QPointF foot, double size, const Tone &tone, Random &random);
+void drawPalmTree(QPainter &painter, QPointF foot, double size, Random &random);
 void drawColumn(QPainter &painter, const StoneTones &tones, QPointF foot, double height,
                 bool broken);
 void drawArch(QPainter &painter, const StoneTones &tones, QPointF foot, double width,
