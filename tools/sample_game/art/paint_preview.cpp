@@ -2,7 +2,6 @@
 // paint_preview --resources DIR: writes the program's own splash pictures and its icon.
 #include "tools/sample_game/art/art.h"
 #include "tools/sample_game/art/icon_file.h"
-#include "tools/sample_game/art/looks.h"
 #include "tools/sample_game/art/splash.h"
 
 #include <QDir>
@@ -101,25 +100,13 @@ void writeAll(const QDir &dir)
     save(art::paintDashPattern(), dir, QStringLiteral("dashes.png"));
 }
 
-// The picture in 8 bits with dithering, which makes files of half the size.
-QImage paletted(const QImage &image)
-{
-    const QImage coarse = art::quantised(image, 256);
-    QVector<QRgb> table;
-    for (int y = 0; y < coarse.height(); ++y)
-        for (int x = 0; x < coarse.width(); ++x)
-            if (!table.contains(coarse.pixel(x, y)))
-                table.append(coarse.pixel(x, y));
-    return image.convertToFormat(QImage::Format_Indexed8, table, Qt::DiffuseDither);
-}
-
 void writeResources(const QDir &dir)
 {
     constexpr std::array<int, 6> kIconSizes = {16, 32, 48, 64, 128, 256};
     const QImage splash = art::paintSplash(kSplashWidth, kSplashHeight);
     const QImage evening = art::paintEveningSplash(kSplashWidth, kSplashHeight);
-    save(paletted(splash), dir, QStringLiteral("ravn_cmped_en.png"));
-    save(paletted(evening), dir, QStringLiteral("ravn_cmped_ru.png"));
+    save(splash, dir, QStringLiteral("ravn_cmped_en.png"));
+    save(evening, dir, QStringLiteral("ravn_cmped_ru.png"));
     QVector<QImage> icons;
     for (const int size : kIconSizes) {
         icons.append(art::paintAppIcon(size));

@@ -27,7 +27,9 @@ void drawBattlements(QPainter &painter, const StoneTones &tones, double left, do
 
 void drawWindow(QPainter &painter, const StoneTones &tones, double x, double y, double size)
 {
-    fillEllipse(painter, {x, y}, size * 1.8, size * 2.2, toColor(tones.window, 50));
+    constexpr double kLit = 200; // only lit windows have a halo
+    if (tones.window.r > kLit)
+        fillEllipse(painter, {x, y}, size * 1.8, size * 2.2, toColor(tones.window, 50));
     fillShape(painter, boxOf(x - size / 2, y + size, size, size * 2), toColor(tones.window));
 }
 

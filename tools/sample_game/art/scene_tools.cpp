@@ -194,14 +194,14 @@ void addFlakes(QImage &image, int count, double largest, double slant, const Ton
     }
 }
 
-void finishScene(QImage &image, double vignette, quint32 seed)
+void finishScene(QImage &image, double vignette, double grain, quint32 seed)
 {
     for (int y = 0; y < image.height(); ++y) {
         QRgb *row = rowOf(image, y);
         for (int x = 0; x < image.width(); ++x) {
             const double canvas = fractalNoise(x / 2.2, y / 2.2, 2, seed) - 0.5;
             const double stroke = fractalNoise(x / 16.0, y / 7.0, 2, seed + 9) - 0.5;
-            row[x] = pack(toTone(row[x]) * (1 + 0.07 * canvas + 0.07 * stroke));
+            row[x] = pack(toTone(row[x]) * (1 + grain * 0.07 * (canvas + stroke)));
         }
     }
     applyVignette(image, vignette);

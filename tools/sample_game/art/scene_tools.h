@@ -43,7 +43,7 @@ void addMist(QImage &image, double top, double bottom, const Tone &tone, double 
 // Snowflakes or sparks; `slant` is how far they drift per unit of fall.
 void addFlakes(QImage &image, int count, double largest, double slant, const Tone &tone,
                Random &random);
-// A fine grain and darker corners: the last step of every scene.
-void finishScene(QImage &image, double vignette, quint32 seed);
+// A canvas's grain, 1 for the usual one, and darker corners: the last step of every scene.
+void finishScene(QImage &image, double vignette, double grain, quint32 seed);
 
 } // namespace art

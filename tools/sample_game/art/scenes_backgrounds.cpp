@@ -342,7 +342,7 @@ QImage paintBackground(Theme theme, quint32 seed)
     Random random(seed + static_cast<quint32>(theme) * 7919U);
     QImage image(kMapWidth, kMapHeight, QImage::Format_RGB32);
     kScenes[static_cast<size_t>(theme)](image, random);
-    finishScene(image, 0.5, random.seed());
+    finishScene(image, 0.5, 1, random.seed());
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     drawFrame(painter, lookOf(theme), QRectF(0, 0, kMapWidth, kMapHeight), kPictureFrame);

@@ -15,7 +15,7 @@ QImage paintMoviePicture(int number, quint32 seed)
     Random random(seed + static_cast<quint32>(number) * 104729U);
     QImage image(kMovieWidth, kMovieHeight, QImage::Format_RGB32);
     kScenes[static_cast<size_t>(qAbs(number % kMoviePictures))](image, random);
-    finishScene(image, 0.62, random.seed());
+    finishScene(image, 0.62, 1, random.seed());
     return image;
 }
 

@@ -14,6 +14,7 @@ namespace art {
 namespace {
 
 constexpr quint32 kSeed = 41;
+constexpr double kGrain = 0.25; // little, as grain makes large files
 
 struct Hour
 {
@@ -132,7 +133,7 @@ QImage paintScene(const Hour &hour, int width, int height)
     painter.setRenderHint(QPainter::Antialiasing);
     drawBanner(painter, {w * 0.60, h * 0.80}, h * 0.36, {196, 40, 44}, {250, 222, 150}, 0.8);
     painter.end();
-    finishScene(image, 0.4, random.seed());
+    finishScene(image, 0.4, kGrain, random.seed());
     painter.begin(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     drawFrame(painter, lookOf(hour.theme), QRectF(0, 0, w, h), h * 0.03);
