@@ -1,0 +1,123 @@
+#include "document/gzip_member.h"
+
+#include "tests/document/samples.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+
+using GzHandle = std::unique_ptr<gzFile_s, gz_deleter>;
+
+class GzipMemberTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void packsByteForByteAsTheGzFunctions_data() { addData(); }
+    void packsByteForByteAsTheGzFunctions();
+    void thePackedLengthAndTwelveIsTheMembersLength_data() { addData(); }
+    void thePackedLengthAndTwelveIsTheMembersLength();
+    void thePackedLengthIsThatOfCompress_data() { addData(); }
+    void thePackedLengthIsThatOfCompress();
+    void portionsHaveTheLengthOfTheWhole_data() { addData(); }
+    void portionsHaveTheLengthOfTheWhole();
+    void unpacksBothFramings();
+    void answersZlibsErrorCodes();
+    void theDeleterClosesAHandleSoThatItsBytesAreOnTheDisk();
+
+private:
+    static void addData();
+};
+
+void GzipMemberTest::addData()
+{
+    QTest::addColumn<QByteArray>("data");
+    QTest::newRow("one byte") << QByteArray("a");
+    QTest::newRow("a small header") << samples::campaignRecords(10, 0, 0);
+    QTest::newRow("noise that doesn't shrink") << samples::noise(700);
+    QTest::newRow("more noise than a block") << samples::noise(300000);
+    QTest::newRow("zeros") << QByteArray(1000000, '\0');
+    QByteArray mixed;
+    for (int i = 0; i < 400; ++i)
+        mixed += samples::noise(300, quint32(i % 60)) + QByteArray(i, 'x');
+    QTest::newRow("repetitions across windows") << mixed;
+}
+
+void GzipMemberTest::packsByteForByteAsTheGzFunctions()
+{
+    QFETCH(QByteArray, data);
+    QTemporaryDir folder;
+    const QString path = folder.filePath("packed");
+    GzHandle handle(gzopen(path.toLocal8Bit().constData(), "wb"));
+    QCOMPARE(gzwrite(handle.get(), data.constData(), unsigned(data.size())), data.size());
+    handle.reset();
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(packGzipMember(data), file.readAll());
+}
+
+void GzipMemberTest::thePackedLengthAndTwelveIsTheMembersLength()
+{
+    QFETCH(QByteArray, data);
+    const int length = get_gz_compressed_size(reinterpret_cast<uchar *>(data.data()), data.size());
+    QCOMPARE(length + 12, packGzipMember(data).size());
+}
+
+void GzipMemberTest::thePackedLengthIsThatOfCompress()
+{
+    QFETCH(QByteArray, data);
+    uLongf length = compressBound(uLong(data.size()));
+    QByteArray room(int(length), '\0');
+    QCOMPARE(compress(reinterpret_cast<Bytef *>(room.data()), &length,
+                      reinterpret_cast<const Bytef *>(data.constData()), uLong(data.size())),
+             Z_OK);
+    QCOMPARE(get_gz_compressed_size(reinterpret_cast<uchar *>(data.data()), data.size()),
+             int(length));
+}
+
+void GzipMemberTest::portionsHaveTheLengthOfTheWhole()
+{
+    QFETCH(QByteArray, data);
+    PackedLength packed;
+    for (int at = 0; at < data.size(); at += 1000)
+        packed.add(data.constData() + at, qMin(1000, data.size() - at));
+    QCOMPARE(packed.finish() + 12, qint64(packGzipMember(data).size()));
+}
+
+void GzipMemberTest::unpacksBothFramings()
+{
+    const QByteArray data = "the same, the same, the same";
+    for (const int bits : {31, 15}) {
+        const QByteArray packed = samples::pack(data, 6, bits);
+        QByteArray room(data.size(), '\0');
+        QCOMPARE(zlib_inflate(packed.constData(), packed.size(), room.data(), room.size()),
+                 data.size());
+        QCOMPARE(room, data);
+    }
+}
+
+void GzipMemberTest::answersZlibsErrorCodes()
+{
+    const QByteArray packed = samples::pack("the same, the same, the same");
+    QByteArray room(64, '\0');
+    QCOMPARE(zlib_inflate("plain text", 10, room.data(), room.size()), Z_DATA_ERROR);
+    QCOMPARE(zlib_inflate(packed.constData(), packed.size(), room.data(), 5), Z_BUF_ERROR);
+    QCOMPARE(zlib_inflate(packed.constData(), packed.size() - 1, room.data(), 64), Z_BUF_ERROR);
+    QCOMPARE(zlib_inflate(packed.constData(), -1, room.data(), 64), Z_BUF_ERROR);
+}
+
+void GzipMemberTest::theDeleterClosesAHandleSoThatItsBytesAreOnTheDisk()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath("packed");
+    {
+        GzHandle handle(gzopen(path.toLocal8Bit().constData(), "wb"));
+        gzputc(handle.get(), 'a');
+    }
+    QCOMPARE(QFileInfo(path).size(), qint64(samples::pack("a").size()));
+    GzHandle none(nullptr);
+}
+
+QTEST_GUILESS_MAIN(GzipMemberTest)
+#include "gzip_member_test.moc"
