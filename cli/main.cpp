@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QLoggingCategory>
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 
@@ -91,7 +92,8 @@ ExitStatus runCommandLine()
         return print(QStringLiteral("cmped-cli " CMPED_VERSION "\n"));
     const QString encoding = parser.value(options.encoding);
     if (!setLocaleCodec(encoding))
-        return wrongUsage(QStringLiteral("There is no encoding \"%1\".").arg(encoding));
+        return wrongUsage(
+            QStringLiteral("The encoding \"%1\" is unknown or can't name files.").arg(encoding));
     // File names on the command line go through the same codec as on the way to the disk.
     parser.parse(QCoreApplication::arguments());
     if (parser.isSet(options.game))
@@ -104,6 +106,8 @@ ExitStatus runCommandLine()
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
+    // A limit on the size of files is an error like a full disk, not the end of the process.
+    std::signal(SIGXFSZ, SIG_IGN);
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     reportToStandardError();
     return runCommandLine();

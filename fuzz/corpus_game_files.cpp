@@ -1,6 +1,6 @@
 // Seeds of what stands in the game's folder: archives, the table file, settings, pictures and the
 // layouts of campaign maps.
-#include "fuzz/corpus_maker.h"
+#include "fuzz/corpus.h"
 #include "tests/support/byte_writer.h"
 
 namespace corpus {

@@ -1,47 +1,13 @@
 // Writes the seed files of the fuzz targets: for each reader sound files of every kind, and
 // hostile ones named for what they do. Only the bytes of the formats stand here, none of the
 // program's own writers.
-#include "fuzz/corpus_maker.h"
+#include "fuzz/corpus.h"
 
 #include <QDir>
 #include <QFile>
 
-#include <zlib.h>
-
 #include <cstdio>
 #include <cstdlib>
-
-namespace corpus {
-
-QByteArray packed(const QByteArray &bytes, int windowBits)
-{
-    z_stream stream{};
-    if (deflateInit2(&stream, Z_DEFAULT_COMPRESSION, Z_DEFLATED, windowBits, 8,
-                     Z_DEFAULT_STRATEGY) != Z_OK)
-        std::abort();
-    QByteArray result(int(deflateBound(&stream, uLong(bytes.size()))), '\0');
-    stream.next_in = reinterpret_cast<Bytef *>(const_cast<char *>(bytes.constData()));
-    stream.avail_in = uInt(bytes.size());
-    stream.next_out = reinterpret_cast<Bytef *>(result.data());
-    stream.avail_out = uInt(result.size());
-    if (deflate(&stream, Z_FINISH) != Z_STREAM_END)
-        std::abort();
-    result.resize(int(stream.total_out));
-    deflateEnd(&stream);
-    return result;
-}
-
-QByteArray gzip(const QByteArray &bytes)
-{
-    return packed(bytes, 31);
-}
-
-QByteArray zlibStream(const QByteArray &bytes)
-{
-    return packed(bytes, 15);
-}
-
-} // namespace corpus
 
 namespace {
 

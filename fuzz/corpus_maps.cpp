@@ -1,4 +1,4 @@
-#include "fuzz/corpus_maker.h"
+#include "fuzz/corpus.h"
 #include "tests/support/byte_writer.h"
 
 namespace corpus {

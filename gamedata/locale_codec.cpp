@@ -13,6 +13,15 @@ namespace {
 // What C libraries call plain ASCII: the locale of a system that was never told one.
 constexpr std::array<std::string_view, 4> asciiNames{"ANSI_X3.4-1968", "US-ASCII", "ASCII", "646"};
 
+// File names and numbers in texts go through the codec as well, so it must keep ASCII as it is.
+bool keepsAscii(const QTextCodec &codec)
+{
+    QByteArray letters;
+    for (char letter = ' '; letter <= '~'; ++letter)
+        letters += letter;
+    return codec.toUnicode(letters) == QString::fromLatin1(letters);
+}
+
 QTextCodec *codecOfSystem()
 {
     std::setlocale(LC_ALL, "");
@@ -21,7 +30,7 @@ QTextCodec *codecOfSystem()
     const char *name = nl_langinfo(CODESET);
     const bool ascii = std::find(asciiNames.begin(), asciiNames.end(), name) != asciiNames.end();
     QTextCodec *codec = ascii ? nullptr : QTextCodec::codecForName(name);
-    return codec ? codec : QTextCodec::codecForName("UTF-8");
+    return codec && keepsAscii(*codec) ? codec : QTextCodec::codecForName("UTF-8");
 }
 
 } // namespace
@@ -30,7 +39,7 @@ bool setLocaleCodec(const QString &name)
 {
     QTextCodec *codec =
         name.isEmpty() ? codecOfSystem() : QTextCodec::codecForName(name.toLatin1());
-    if (!codec)
+    if (!codec || !keepsAscii(*codec))
         return false;
     QTextCodec::setCodecForLocale(codec);
     return true;

@@ -9,5 +9,6 @@
 
 // Sets the codec of this name. An empty name takes what the system's locale says (LC_ALL,
 // LC_CTYPE, LANG), where plain ASCII counts as UTF-8 and an encoding unknown to Qt does too.
-// False if no codec has the name given; nothing is changed then.
+// False if no codec has the name given, or one that changes ASCII, so that no file could be named
+// by it; nothing is changed then.
 bool setLocaleCodec(const QString &name);

@@ -1,0 +1,168 @@
+// Files made to hurt: whatever they hold, the program ends by itself, soon, and in little memory.
+#include "fuzz/corpus.h"
+#include "tests/cli/tiny_game.h"
+#include "tests/support/byte_writer.h"
+
+#include <QtTest>
+
+class CliHostileTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void campaignIsReadSoonAndInLittleMemory_data();
+    void campaignIsReadSoonAndInLittleMemory();
+    void tableFileIsReadSoonAndInLittleMemory_data();
+    void tableFileIsReadSoonAndInLittleMemory();
+    void archiveIsReadSoonAndInLittleMemory_data();
+    void archiveIsReadSoonAndInLittleMemory();
+    // The last: the peak is that of all children so far.
+    void largestCampaignIsDumpedWithoutASecondCopy();
+
+private:
+    void check(const ChildResult &result);
+
+    TinyGame m_game;
+};
+
+namespace {
+
+constexpr qint64 kilobytesAllowed = 100 * 1024;
+
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool figuresCount = false;
+constexpr qint64 millisecondsAllowed = 30000;
+#else
+constexpr bool figuresCount = true;
+constexpr qint64 millisecondsAllowed = 1000;
+#endif
+
+constexpr qint64 bombBytes = qint64(300) * 1024 * 1024;
+
+ByteWriter head(quint32 scenarios)
+{
+    return ByteWriter().u32(10).u32(1).u8(0).u32(0).u32(scenarios).u8(25);
+}
+
+QByteArray scenarioBombs(quint32 count)
+{
+    return corpus::gzipWithZeros(head(count).u32(0).u32(0).zeros(2).bytes(), bombBytes);
+}
+
+QByteArray nameBomb(quint32 length)
+{
+    return corpus::gzipWithZeros(head(0).u32(length).bytes(), bombBytes);
+}
+
+// A scenario whose map is a bomb: its header, or what is behind it.
+QByteArray mapBomb(const QByteArray &start)
+{
+    const QByteArray map = corpus::gzipWithZeros(start, bombBytes);
+    ByteWriter file = head(1).u32(0).u32(0).zeros(2);
+    file.text("bomb.e3m").u32(quint32(map.size())).zeros(1 + 2 + 4 + 6 + 1 + 24 + 20 + 1);
+    return corpus::gzip(file.bytes()) + map;
+}
+
+QByteArray mapStart()
+{
+    return ByteWriter().u32(28).u8(1).u32(72).u8(0).bytes();
+}
+
+QByteArray mapWithPlaceholders(quint32 count)
+{
+    // Eight absent players, no victory, no loss, no teams, 160 heroes.
+    ByteWriter map = ByteWriter().raw(mapStart()).u32(0).u32(0).u8(0).u8(0);
+    for (int player = 0; player < 8; ++player)
+        map.zeros(3 + 1 + 2 + 1 + 1 + 1).u8(255).u8(0).u32(0);
+    return map.u8(255).u8(255).u8(0).zeros(20).u32(count).bytes();
+}
+
+} // namespace
+
+void CliHostileTest::campaignIsReadSoonAndInLittleMemory_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    for (const corpus::File &seed : corpus::campaigns())
+        QTest::newRow(seed.name) << seed.bytes;
+    QTest::newRow("bomb of 3000 scenarios") << scenarioBombs(3000);
+    QTest::newRow("bomb of 2^32-1 scenarios") << scenarioBombs(0xffffffff);
+    QTest::newRow("bomb in the name") << nameBomb(0x7fffffff);
+    QTest::newRow("bomb in the name, as long as stated") << nameBomb(quint32(bombBytes));
+    QTest::newRow("bomb without a version") << corpus::gzipWithZeros({}, bombBytes);
+    QTest::newRow("bomb behind a map's header") << mapBomb(corpus::mapHeader(28));
+    QTest::newRow("bomb in a map's name")
+        << mapBomb(mapStart() + ByteWriter().u32(0x7fffffff).bytes());
+    QTest::newRow("bomb of placeholders") << mapBomb(mapWithPlaceholders(0xffffffff));
+    QTest::newRow("bomb of placeholders, signed") << mapBomb(mapWithPlaceholders(0x7fffffff));
+}
+
+void CliHostileTest::campaignIsReadSoonAndInLittleMemory()
+{
+    QFETCH(QByteArray, content);
+    const QString file = m_game.write(QStringLiteral("hostile.e3c"), content);
+    const QString out = m_game.path(QStringLiteral("out.e3c"));
+    check(m_game.run({QStringLiteral("dump"), file}));
+    check(m_game.run({QStringLiteral("resave"), file, out}));
+}
+
+void CliHostileTest::tableFileIsReadSoonAndInLittleMemory_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    for (const corpus::File &seed : corpus::tableFiles())
+        QTest::newRow(seed.name) << seed.bytes;
+}
+
+void CliHostileTest::tableFileIsReadSoonAndInLittleMemory()
+{
+    QFETCH(QByteArray, content);
+    const TinyGame game;
+    game.write(QStringLiteral("ravn.dat"), content);
+    check(game.run({QStringLiteral("tables")}));
+}
+
+void CliHostileTest::archiveIsReadSoonAndInLittleMemory_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    for (const corpus::File &seed : corpus::archives())
+        QTest::newRow(seed.name) << seed.bytes;
+}
+
+void CliHostileTest::archiveIsReadSoonAndInLittleMemory()
+{
+    QFETCH(QByteArray, content);
+    const TinyGame game;
+    game.write(QStringLiteral("Data/Ravn_l_ext.lod"), content);
+    const QString out = game.path(QStringLiteral("out"));
+    check(game.run({QStringLiteral("list")}));
+    check(game.run({QStringLiteral("extract"), QStringLiteral("hello.txt"), out}));
+}
+
+void CliHostileTest::largestCampaignIsDumpedWithoutASecondCopy()
+{
+    // 30,000 scenarios with 30,000 prerequisites each: 113 MB of records, 900 MB of JSON.
+    const QString file = m_game.write(QStringLiteral("largest.e3c"), scenarioBombs(30000));
+    const ChildResult result = runChild(
+        QStringLiteral("/bin/sh"),
+        {QStringLiteral("-c"), QStringLiteral("exec \"$0\" --game \"$1\" dump \"$2\" >/dev/null"),
+         builtProgram(QStringLiteral("cmped-cli")), m_game.path(QString()), file});
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(result.exitCode, 0);
+    if (figuresCount)
+        QVERIFY2(result.peakKilobytes < 200 * 1024,
+                 qPrintable(QStringLiteral("%1 KB").arg(result.peakKilobytes)));
+}
+
+void CliHostileTest::check(const ChildResult &result)
+{
+    QVERIFY(result.exitedNormally);
+    QVERIFY2(result.exitCode == 0 || result.exitCode == 2, result.error);
+    QCOMPARE(result.error.isEmpty(), result.exitCode == 0);
+    QVERIFY2(result.milliseconds < millisecondsAllowed,
+             qPrintable(QStringLiteral("%1 ms").arg(result.milliseconds)));
+    if (figuresCount)
+        QVERIFY2(result.peakKilobytes < kilobytesAllowed,
+                 qPrintable(QStringLiteral("%1 KB").arg(result.peakKilobytes)));
+}
+
+QTEST_GUILESS_MAIN(CliHostileTest)
+#include "cli_hostile_test.moc"
