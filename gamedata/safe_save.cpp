@@ -182,7 +182,7 @@ SaveResult writeNewFile(const fs::path &path, const std::vector<QByteArray> &pie
     errno = 0;
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
         return failure(errno, file);
-    const SaveResult written = writePieces(file, pieces);
+    SaveResult written = writePieces(file, pieces);
     if (!written.ok)
         file.remove();
     syncFolderOf(path);

@@ -1,12 +1,10 @@
 #include "gamedata/report.h"
 
+#include "tests/support/child_process.h"
 #include "tests/support/report_recorder.h"
 
 #include <QTranslator>
 #include <QtTest>
-
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 
@@ -21,33 +19,22 @@ public:
     bool isEmpty() const override { return false; }
 };
 
-struct Ending
+// What this program does as its own child, with the reporter that is there at the start.
+int actAsChild(const QByteArray &act)
 {
-    int status = 0;
-    QByteArray error;
-};
-
-// Runs it in a child with the reporter that is there at the start.
-template<typename Act>
-Ending endOf(Act act)
-{
-    int ends[2] = {};
-    if (pipe(ends) != 0)
-        return {};
-    const pid_t child = fork();
-    if (child == 0) {
-        dup2(ends[1], STDERR_FILENO);
-        act();
-        _exit(99);
+    if (act == "show") {
+        reportError(QStringLiteral("Error"), QStringLiteral("no file"));
+        return 99; // it went on
     }
-    close(ends[1]);
-    Ending ending;
-    char buffer[256];
-    for (ssize_t got = 0; (got = read(ends[0], buffer, sizeof buffer)) > 0;)
-        ending.error.append(buffer, int(got));
-    close(ends[0]);
-    waitpid(child, &ending.status, 0);
-    return ending;
+    if (act == "end")
+        endWithMessage(QStringLiteral("no file"));
+    setReporter({[](const QString &, const QString &) {}, [](int) {}});
+    endSilently(1);
+}
+
+ChildResult childThat(const QString &act)
+{
+    return runChild(QCoreApplication::applicationFilePath(), {QStringLiteral("--act"), act});
 }
 
 } // namespace
@@ -125,31 +112,34 @@ void ReportTest::titleComesFromTheWindowsTexts()
 
 void ReportTest::writesToStandardErrorAtFirst()
 {
-    const Ending ending =
-        endOf([] { reportError(QStringLiteral("Error"), QStringLiteral("no file")); });
-    QCOMPARE(ending.error, QByteArray("Error: no file\n"));
-    QVERIFY(WIFEXITED(ending.status));
-    QCOMPARE(WEXITSTATUS(ending.status), 99); // it went on
+    const ChildResult child = childThat(QStringLiteral("show"));
+    QCOMPARE(child.error, QByteArray("Error: no file\n"));
+    QVERIFY(child.exitedNormally);
+    QCOMPARE(child.exitCode, 99);
 }
 
 void ReportTest::exitsAtFirst()
 {
-    const Ending ending = endOf([] { endWithMessage(QStringLiteral("no file")); });
-    QCOMPARE(ending.error, QByteArray("Error: no file\n"));
-    QVERIFY(WIFEXITED(ending.status));
-    QCOMPARE(WEXITSTATUS(ending.status), 1);
+    const ChildResult child = childThat(QStringLiteral("end"));
+    QCOMPARE(child.error, QByteArray("Error: no file\n"));
+    QVERIFY(child.exitedNormally);
+    QCOMPARE(child.exitCode, 1);
 }
 
 void ReportTest::abortsWhenAReporterComesBack()
 {
-    const Ending ending = endOf([] {
-        signal(SIGABRT, SIG_DFL);
-        setReporter({[](const QString &, const QString &) {}, [](int) {}});
-        endSilently(1);
-    });
-    QVERIFY(WIFSIGNALED(ending.status));
-    QCOMPARE(WTERMSIG(ending.status), SIGABRT);
+    const ChildResult child = childThat(QStringLiteral("come back"));
+    QVERIFY(child.started);
+    QVERIFY(!child.exitedNormally);
 }
 
-QTEST_GUILESS_MAIN(ReportTest)
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    if (argc == 3 && qstrcmp(argv[1], "--act") == 0)
+        return actAsChild(argv[2]);
+    ReportTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "report_test.moc"

@@ -84,9 +84,11 @@ void TStringTest::copiesKeepTheZeroBehindThem()
 {
     QFETCH(int, size);
     const QByteArray bytes(size, 'x');
-    const TString text(bytes.constData());
+    TString text(bytes.constData());
     const TString copy(text);
+    text = TString("another");
     QCOMPARE(QByteArray(copy.c_str()), bytes);
+    text = copy;
     TString assigned(QByteArray(60, 'y').constData());
     assigned = text;
     QCOMPARE(QByteArray(assigned.c_str()), bytes);
