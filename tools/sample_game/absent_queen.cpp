@@ -16,7 +16,7 @@ constexpr int kRegions = 10;
 constexpr int kCommonResources = 0xfd;
 constexpr int kCrowns = 6;
 
-// The regions' scenarios; 7 and 9 wait for an author.
+// The regions' scenarios; two wait for an author, and the last is the lighthouse isle.
 enum Scenario
 {
     Landing,
@@ -27,8 +27,8 @@ enum Scenario
     Road,
     Weir,
     Open1,
-    Harbour,
-    Open2
+    Open2,
+    Harbour
 };
 
 QString text(const char *utf8)
@@ -63,13 +63,13 @@ ScenarioPlan landing()
                                     {BonusKind::Creature, kMostPowerfulHero, 0, 30},
                                     {BonusKind::Building, 0, 7}});
     scenario.prologues = {
-        {0, kRiverMarch,
+        {1, kRiverMarch,
          text("The ferryman would take no silver. \"Hold the landing,\" he said, "
               "\"and I shall call us even.\"")},
-        {1, kRiverMarch,
+        {7, kRiverMarch,
          text("Thirty of the reed levy came down in the rain. They had heard that "
               "there would be soup.")},
-        {3, kCampfire,
+        {6, kCampfire,
          text("The council sent a smith instead of soldiers. It was the cleverest "
               "thing it had done in years.")}};
     scenario.epilogues = {{13, kLullaby,
@@ -90,7 +90,7 @@ ScenarioPlan bridge()
     scenario.heroKeeps = {0, 1, 2, 3, 4};
     scenario.artifacts = {7, 15, 21, 34, 148};
     scenario.creatures = {0, 1, 2, 3, 4, 5};
-    scenario.prologues = {{12, kRoadEast,
+    scenario.prologues = {{2, kRoadEast,
                            text("\"Two crowns for a cart,\" said Thrale, \"and I can "
                                 "count wheels in the dark.\"")}};
     return scenario;
@@ -105,10 +105,10 @@ ScenarioPlan pond()
     scenario.regionText = text("The mill wheel turns against the stream since midsummer.");
     scenario.start = offers(StartKind::Hero, {{kRed, kFernald}, {kRed, kRandomHero}, {kGreen, 20}});
     scenario.prologues = {
-        {11, kLullaby, text("Fernald put his ear to the water and went pale.")},
-        {2, kLullaby, text("A stranger took the oath at the mill. The pond repeated every word.")},
-        {11, kCampfire, text("From the other bank it looked like any pond. That was the trick.")}};
-    scenario.epilogues = {{14, kRoadEast,
+        {4, kLullaby, text("Fernald put his ear to the water and went pale.")},
+        {3, kLullaby, text("A stranger took the oath at the mill. The pond repeated every word.")},
+        {4, kCampfire, text("From the other bank it looked like any pond. That was the trick.")}};
+    scenario.epilogues = {{9, kRoadEast,
                            text("The miller has sold the mill. The pond was not "
                                 "mentioned in the deed.")}};
     return scenario;
@@ -125,8 +125,8 @@ ScenarioPlan ford()
                                     {BonusKind::Artifact, kMostPowerfulHero, 48},
                                     {BonusKind::Scroll, kMostPowerfulHero, 52}});
     scenario.prologues = {
-        {5, kRiverMarch, text("The old chart shows a ford where the water is deepest now.")},
-        {5, kRiverMarch, text("The boots were dry. They had been dry for a hundred years.")}};
+        {10, kRiverMarch, text("The old chart shows a ford where the water is deepest now.")},
+        {0, kRiverMarch, text("The boots were dry. They had been dry for a hundred years.")}};
     return scenario;
 }
 
@@ -142,8 +142,8 @@ ScenarioPlan court()
     scenario.artifacts = range(7, 40);
     scenario.creatures = range(0, 27);
     scenario.prologues = {
-        {10, kSnowbound, text("There was a place laid for the queen. There always is.")},
-        {3, kSnowbound,
+        {6, kSnowbound, text("There was a place laid for the queen. There always is.")},
+        {11, kSnowbound,
          text("Uncle Glimmond had already had the coins struck with his own face.")}};
     return scenario;
 }
@@ -158,11 +158,11 @@ ScenarioPlan road()
     scenario.start = bonuses(kRed, {{BonusKind::PrimarySkill, kGeneratedHero, 0, 0, {2, 1, 0, 1}},
                                     {BonusKind::SecondarySkill, 54, 5, 2},
                                     {BonusKind::Resource, 0, kCommonResources, 10}});
-    scenario.prologues = {{6, kCampfire,
+    scenario.prologues = {{8, kCampfire,
                            text("Jorrum the Débonair bowed so low that his hat caught "
                                 "fire.")}};
     scenario.epilogues = {
-        {15, kRoadEast, text("Behind the kilns the road went on, and it was green.")}};
+        {12, kRoadEast, text("Behind the kilns the road went on, and it was green.")}};
     return scenario;
 }
 
@@ -175,15 +175,15 @@ ScenarioPlan weir()
     scenario.regionText = text("Seven gates hold back the upper river. Six of them leak.");
     scenario.start = offers(StartKind::Hero, {{kRed, kTammas}, {kRed, kKnell}, {kGreen, 131}});
     scenario.prologues = {
-        {12, kRiverMarch,
-         text("Tammas had helped to build the weir. He knew which stone to pull.")},
-        {8, kLullaby, text("Knell asked the drowned for the keys. They wanted candles in return.")},
-        {8, kSnowbound, text("The regent of the fens offered help, a map and a very small boat.")}};
+        {9, kRiverMarch, text("Tammas had helped to build the weir. He knew which stone to pull.")},
+        {5, kLullaby, text("Knell asked the drowned for the keys. They wanted candles in return.")},
+        {10, kSnowbound,
+         text("The regent of the fens offered help, a map and a very small boat.")}};
     scenario.epilogues = {
         {0, kRiverMarch, text("The river came down like a parade.")},
-        {5, kLullaby,
+        {17, kLullaby,
          text("The bells of the drowned belfry rang, and this time they were answered.")},
-        {9, kRoadEast, text("The very small boat turned out to be exactly large enough.")}};
+        {1, kRoadEast, text("The very small boat turned out to be exactly large enough.")}};
     return scenario;
 }
 
@@ -198,8 +198,8 @@ ScenarioPlan harbour()
     scenario.heroKeeps = {0, 1, 2, 3, 4};
     scenario.artifacts = range(4, 165);
     scenario.creatures = range(0, 185);
-    scenario.prologues = {{16, kRiverMarch, text("At dawn the fleet had wind. So had we.")}};
-    scenario.epilogues = {{20, kClockworkWaltz,
+    scenario.prologues = {{13, kRiverMarch, text("At dawn the fleet had wind. So had we.")}};
+    scenario.epilogues = {{11, kClockworkWaltz,
                            text("\"I was not taken,\" said the queen. \"I went. "
                                 "Somebody had to see where the river ends.\"")}};
     return scenario;
@@ -234,8 +234,8 @@ CampaignPlan absentQueen()
     plan.scenarios[Road] = road();
     plan.scenarios[Weir] = weir();
     plan.scenarios[Open1] = openRegion(1, "Nobody has written about this valley yet.");
-    plan.scenarios[Harbour] = harbour();
     plan.scenarios[Open2] = openRegion(4, "");
+    plan.scenarios[Harbour] = harbour();
     return plan;
 }
 

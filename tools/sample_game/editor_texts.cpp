@@ -43,7 +43,7 @@ Impossible
 Map file
 Import
 Export
-Remove
+Remove the map
 Prerequisites
 Right-click text
 Prologue
@@ -173,29 +173,29 @@ QStringList addedMusicNames()
 QStringList movieNames()
 {
     return names::lines(R"(
-The Ford at Dawn
-A Rider in the Rain
-The Burning Mill
-Council of Rivermark
-Snow on the Pass
-The Drowned Belfry
-Fires over Cinderhall
-March of the Karrun
-The Sealed Door
-Ships at Anchor
-The Absent Queen
-Night in Thornvale
-The Broken Weir
-Lanterns on the Water
-The Duel
-The Long Way Home
+Rider at Dawn
+Ships Under Sail
+The Gate of Rivermark
+Fires in the Woods
+Into Thornvale
+The Wyrm and the Moon
+The Empty Throne
+Banners of War
+Through the Snow
+Ruins in the Grass
+The Old Chart
+The Queen's Crown
+The Road East
+Bound for Saltharbour
+The Gate Stands Open
+The Last Camp
 )");
 }
 
 QStringList addedMovieNames()
 {
-    return {QStringLiteral("Saltharbour Awakes"), QStringLiteral("The Great Clock"), QString(),
-            QStringLiteral("Storm off the Cape"), QStringLiteral("Fin de siècle")};
+    return {QStringLiteral("The Long Way Home"), QStringLiteral("Night of the Wyrm"), QString(),
+            QStringLiteral("The Regent's Host"), QStringLiteral("Föhn and Snow")};
 }
 
 QVector<NamedFile> editorTexts()

@@ -98,6 +98,8 @@ void writeArchivesAndTables(FolderWriter &writer)
 
 QString makeGameFolder(const QString &folder)
 {
+    if (!QDir().mkpath(folder))
+        return QStringLiteral("%1: the folder can't be made").arg(folder);
     FolderWriter writer(folder);
     writeArchivesAndTables(writer);
     writer.write(QStringLiteral("Ravn_settings.ini"), settingsFile());

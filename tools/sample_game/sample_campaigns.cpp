@@ -31,8 +31,8 @@ CampaignPlan withoutMap()
                       scenarioOn(SnowPass)};
     plan.scenarios[2].prerequisites = {0};
     plan.scenarios[3].prerequisites = {2};
-    plan.scenarios[0].prologues = {{0, kLullaby, QStringLiteral("Spring, and the ice goes out.")}};
-    plan.scenarios[3].epilogues = {{4, kSnowbound, QStringLiteral("The river closed behind us.")}};
+    plan.scenarios[0].prologues = {{1, kLullaby, QStringLiteral("Spring, and the ice goes out.")}};
+    plan.scenarios[3].epilogues = {{20, kSnowbound, QStringLiteral("The river closed behind us.")}};
     return plan;
 }
 
@@ -52,7 +52,7 @@ CampaignPlan ofOldVersion(int version)
     plan.scenarios[1].prerequisites = {0};
     plan.scenarios[3].prerequisites = {1};
     plan.scenarios[0].prologues = {{7, kRoadEast, QStringLiteral("The drums began at noon.")}};
-    plan.scenarios[3].epilogues = {{2, kCampfire, QStringLiteral("The drums had stopped.")}};
+    plan.scenarios[3].epilogues = {{3, kCampfire, QStringLiteral("The drums had stopped.")}};
     plan.scenarios[1].artifacts = {7, 100, 128};
     plan.scenarios[1].creatures = {84, 85, 144};
     plan.scenarios[3].start.kind = StartKind::Crossover;

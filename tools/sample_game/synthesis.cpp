@@ -13,7 +13,7 @@ namespace {
 constexpr double kPi = 3.14159265358979323846;
 constexpr double kTailSeconds = 1.2;
 constexpr double kFullScale = 26000;
-constexpr int kOvertones = 6;
+constexpr size_t kOvertones = 6;
 
 struct Timbre
 {
@@ -73,17 +73,23 @@ void addNote(std::vector<double> &mix, const Line &line, double hertz, double st
     const size_t first = size_t(start * kSampleRate);
     const size_t count = size_t((length + timbre.releaseSeconds) * kSampleRate);
     const size_t last = std::min(mix.size(), first + count);
-    for (int partial = 0; partial < kOvertones; ++partial) {
-        const double multiple = (partial + 1) * (1 + timbre.stretch * partial * partial);
-        const double loudness = line.loudness * timbre.overtones[size_t(partial)];
-        const double step = 2 * kPi * hertz * multiple / kSampleRate;
-        if (loudness <= 0 || step >= kPi)
-            continue;
-        for (size_t i = first; i < last; ++i) {
-            const double time = double(i - first) / kSampleRate;
-            mix[i] +=
-                loudness * envelope(timbre, time, length) * std::sin(step * double(i - first));
+    std::array<double, kOvertones> loudness = {};
+    std::array<double, kOvertones> step = {};
+    for (size_t partial = 0; partial < kOvertones; ++partial) {
+        const double order = double(partial);
+        const double multiple = (order + 1) * (1 + timbre.stretch * order * order);
+        step[partial] = 2 * kPi * hertz * multiple / kSampleRate;
+        // Partials that the rate can't carry would come back as false tones.
+        loudness[partial] = step[partial] < kPi ? line.loudness * timbre.overtones[partial] : 0;
+    }
+    for (size_t i = first; i < last; ++i) {
+        const double age = double(i - first);
+        double value = 0;
+        for (size_t partial = 0; partial < kOvertones; ++partial) {
+            if (loudness[partial] > 0)
+                value += loudness[partial] * std::sin(step[partial] * age);
         }
+        mix[i] += value * envelope(timbre, age / kSampleRate, length);
     }
 }
 

@@ -18,7 +18,7 @@ const std::vector<Tune> &tunes()
            "C3/2 -/1 C3/1 C3/2 C3/1 C3/1 C3/2 -/1 C3/1 C3/2 C3/1 C3/1 "
            "C3/2 -/1 C3/1 C3/2 C3/1 C3/1 C3/2 -/1 C3/1 C3/4"}}},
         {"Lullaby of the Reeds",
-         330,
+         280,
          {{Voice::Harp, 0.60,
            "E5/2 G5/1 A5/2 G5/1 E5/2 D5/1 C5/3 D5/2 E5/1 G5/2 E5/1 D5/6 "
            "E5/2 G5/1 A5/2 C6/1 B5/2 A5/1 G5/3 A5/1 G5/1 E5/1 D5/2 E5/1 C5/6"},
@@ -27,7 +27,7 @@ const std::vector<Tune> &tunes()
            "C3/3 G2/3 A2/3 E2/3 F2/3 C3/3 G2/3 D3/3 C3/3 G2/3 E3/3 B2/3 "
            "F2/3 G2/3 C3/6"}}},
         {"Snowbound",
-         300,
+         240,
          {{Voice::Bell, 0.50,
            "A5/3 E5/1 C6/2 B5/2 A5/4 -/2 G5/2 F5/3 E5/1 D5/2 F5/2 E5/6 -/2 "
            "A5/3 E5/1 C6/2 E6/2 D6/4 C6/2 B5/2 A5/8"},
