@@ -45,4 +45,12 @@ inline void fillEllipse(QPainter &painter, QPointF centre, double rx, double ry,
     painter.drawEllipse(centre, rx, ry);
 }
 
+inline QPolygonF boxOf(double left, double bottom, double width, double height)
+{
+    return polygon({{left, bottom},
+                    {left, bottom - height},
+                    {left + width, bottom - height},
+                    {left + width, bottom}});
+}
+
 } // namespace art

@@ -31,6 +31,7 @@ void drawRider(QPainter &painter, QPointF foot, double size, const Tone &tone);
 void drawBanner(QPainter &painter, QPointF foot, double height, const Tone &cloth, const Tone &sign,
                 double wave);
 void drawLantern(QPainter &painter, QPointF place, double size);
+void drawFlame(QPainter &painter, QPointF foot, double size, Random &random);
 void drawCrown(QPainter &painter, QPointF foot, double width);
 
 } // namespace art

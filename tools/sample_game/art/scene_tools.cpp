@@ -24,6 +24,18 @@ Tone screened(const Tone &base, const Tone &light, double k)
 
 } // namespace
 
+void paintPlain(QImage &image, const Tone &top, const Tone &bottom, quint32 seed)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        QRgb *row = rowOf(image, y);
+        for (int x = 0; x < image.width(); ++x) {
+            const double n = fractalNoise(x / 40.0, y / 40.0, 4, seed) - 0.5;
+            row[x] =
+                pack(mix(top, bottom, static_cast<double>(y) / image.height()) * (1 + 0.3 * n));
+        }
+    }
+}
+
 void paintSky(QImage &image, const QVector<Tone> &tones, double horizon, quint32 seed)
 {
     const int last = tones.size() - 1;

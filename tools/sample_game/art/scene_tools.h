@@ -9,6 +9,8 @@
 
 namespace art {
 
+// A mottled wall or table top, without a sky.
+void paintPlain(QImage &image, const Tone &top, const Tone &bottom, quint32 seed);
 // Tones from the top row to the row `horizon`; below it the last one.
 void paintSky(QImage &image, const QVector<Tone> &tones, double horizon, quint32 seed);
 void addStars(QImage &image, int count, double below, Random &random);

@@ -8,6 +8,34 @@
 
 namespace art {
 
+namespace {
+
+// Trees whose crowns are out of sight, left and right of the path.
+void drawTrunks(QPainter &painter, int count, double near, double ground, double w, Random &random)
+{
+    for (int i = 0; i < count; ++i) {
+        const double x = w * random.unit();
+        if (x > w * (0.44 - 0.09 * near) && x < w * (0.60 + 0.09 * near))
+            continue;
+        const double width = w * (0.010 + 0.03 * near) * random.range(0.7, 1.4);
+        const Tone bark = mix({150, 156, 110}, {38, 30, 24}, near * 0.9 + 0.1);
+        fillShape(painter,
+                  polygon({{x - width * 0.5, 0},
+                           {x + width * 0.5, 0},
+                           {x + width * 0.8, ground + 8},
+                           {x - width * 0.8, ground + 8}}),
+                  toColor(bark));
+        fillShape(painter,
+                  polygon({{x - width * 0.5, 0},
+                           {x - width * 0.1, 0},
+                           {x - width * 0.25, ground + 8},
+                           {x - width * 0.8, ground + 8}}),
+                  toColor(mix(bark, {210, 206, 130}, 0.35 - 0.2 * near)));
+    }
+}
+
+} // namespace
+
 void paintSunrise(QImage &image, Random &random)
 {
     const double w = image.width();
@@ -82,25 +110,7 @@ void paintForestPath(QImage &image, Random &random)
             painter,
             polygon({{0, ground - 4}, {w * 0.5, ground + 6}, {w, ground - 6}, {w, h}, {0, h}}),
             toColor(mix({148, 166, 92}, {44, 60, 34}, near)));
-        for (int i = 0; i < 12 - depth; ++i) {
-            const double x = w * random.unit();
-            if (x > w * (0.44 - 0.09 * near) && x < w * (0.60 + 0.09 * near))
-                continue;
-            const double width = w * (0.010 + 0.03 * near) * random.range(0.7, 1.4);
-            const Tone bark = mix({150, 156, 110}, {38, 30, 24}, near * 0.9 + 0.1);
-            fillShape(painter,
-                      polygon({{x - width * 0.5, 0},
-                               {x + width * 0.5, 0},
-                               {x + width * 0.8, ground + 8},
-                               {x - width * 0.8, ground + 8}}),
-                      toColor(bark));
-            fillShape(painter,
-                      polygon({{x - width * 0.5, 0},
-                               {x - width * 0.1, 0},
-                               {x - width * 0.25, ground + 8},
-                               {x - width * 0.8, ground + 8}}),
-                      toColor(mix(bark, {210, 206, 130}, 0.35 - 0.2 * near)));
-        }
+        drawTrunks(painter, 12 - depth, near, ground, w, random);
         for (int i = 0; i < 70; ++i) {
             const double side = random.unit();
             const QPointF leaf(w * (side < 0.5 ? side * 0.9 : 1 - (1 - side) * 0.9),
