@@ -200,7 +200,7 @@ void MapHeaderTest::theVersionsFieldIsNeverRefused()
     QCOMPARE(scenario.mapHeader->headerHeroes.available.size(), version < 32 ? 160 : 0);
     // In front of the players: dimension to difficulty is 14 bytes, and a level limit if new.
     // A player is 7 bytes and a portrait and an empty name if old, 7 more with lists if new.
-    const qint64 expected = version < 32 ? 5 + 14 + 8 * (8 + 5) + 3 + 2 + 3 + 1 + 20 + 31
+    const qint64 expected = version < 32 ? 5 + 14 + 8 * (8 + 5) + 5 + 4 + 1 + 20 + 31
                                          : 9 + 15 + 8 * (8 + 5 + 2 + 5) + 5 + 4 + 1 + 4 + 4 + 1 + 31;
     QCOMPARE(pos, expected);
 }

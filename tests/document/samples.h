@@ -159,7 +159,7 @@ struct Scenario
     QByteArray fileName;
     quint32 mapSize = 0;
     QByteArray prerequisites = QByteArray(1, '\0');
-    QByteArray regionText;
+    QByteArray regionText = QByteArray();
     QByteArray startOptions = QByteArray(1, '\0');
 };
 

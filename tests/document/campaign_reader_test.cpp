@@ -1,0 +1,381 @@
+#include "document/campaign_data.h"
+
+#include "tests/document/samples.h"
+#include "tests/support/report_recorder.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+class CampaignReaderTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void readsEveryField_data();
+    void readsEveryField();
+    void readsTheMapsBehindTheHeader_data();
+    void readsTheMapsBehindTheHeader();
+    void subversionZeroIsReadAlike();
+    void readsACampaignWithoutAMap();
+    void aCampaignWithoutAMapIsACampaignOnTheTable();
+    void theMapsNumberIsStoredPlusOne_data();
+    void theMapsNumberIsStoredPlusOne();
+    void aMapThatTheTableLacksHasNoScenarios();
+    void prerequisitesFitTheCountOfScenarios();
+    void setsTheEditorsState();
+    void anOldFileResetsTheNewFields();
+    void failuresAreTold_data();
+    void failuresAreTold();
+    void aFileThatCannotBeOpenedIsTold();
+    void aPercentInTheNameStays();
+    void aFailureLeavesTheOtherFields();
+    void theReaderWithoutABoxIsSilent();
+    void readsTheFileWhateverThePositionOfItsHandle();
+
+private:
+    QString write(const QByteArray &bytes)
+    {
+        return samples::writeFile(m_folder.filePath("c.e3c"), bytes);
+    }
+    std::optional<QString> read(CampaignData &campaign, const QByteArray &bytes)
+    {
+        QFile file(write(bytes));
+        file.open(QIODevice::ReadOnly);
+        return campaign.readCampaign(&file);
+    }
+
+    QTemporaryDir m_folder;
+};
+
+void CampaignReaderTest::init()
+{
+    samples::setTables();
+}
+
+static void addVersions()
+{
+    QTest::addColumn<quint32>("version");
+    for (const quint32 version : {5u, 6u, 10u})
+        QTest::newRow(qPrintable(QString("version %1").arg(version))) << version;
+}
+
+static QBitArray bits(int size, std::initializer_list<int> set)
+{
+    QBitArray array(size);
+    for (const int bit : set)
+        array.setBit(bit);
+    return array;
+}
+
+void CampaignReaderTest::readsEveryField_data()
+{
+    addVersions();
+}
+
+void CampaignReaderTest::readsEveryField()
+{
+    QFETCH(quint32, version);
+    CampaignData c;
+    QVERIFY(!read(c, samples::pack(samples::campaignRecords(version, 0, 0))));
+    QCOMPARE(c.version, version);
+    QCOMPARE(c.mapId, quint8(3));
+    QVERIFY(c.hasMap);
+    QCOMPARE(c.name, QString("Ember Road"));
+    QCOMPARE(c.description, QString("Three steps"));
+    QVERIFY(c.difficultySelectable);
+    QCOMPARE(c.musicId, quint8(34));
+    QCOMPARE(c.scenarios.size(), size_t(3));
+    const ScenarioData &s = c.scenarios[0];
+    QCOMPARE(s.mapFileName, QString("one.e3m"));
+    QCOMPARE(s.mapSize, 0u);
+    QVERIFY(!s.mapHeader);
+    QCOMPARE(s.prerequisites, bits(3, {}));
+    QCOMPARE(c.scenarios[1].prerequisites, bits(3, {0}));
+    QCOMPARE(c.scenarios[2].prerequisites, bits(3, {0, 1}));
+    QCOMPARE(s.regionColor, quint8(5));
+    QCOMPARE(s.defaultDifficulty, quint8(4));
+    QCOMPARE(s.regionText, QString("Begin"));
+    QCOMPARE(c.scenarios[1].regionText, QString());
+    QVERIFY(s.prologues[0]);
+    QCOMPARE(s.prologues[0]->videoId, quint8(7));
+    QCOMPARE(s.prologues[0]->musicIndex, quint8(9));
+    QCOMPARE(s.prologues[0]->text, QString("Once"));
+    QVERIFY(!s.prologues[1] && !s.prologues[2] && !s.epilogues[0] && !s.epilogues[1]);
+    QCOMPARE(bool(s.epilogues[2]), version == 10);
+    if (version == 10)
+        QCOMPARE(s.epilogues[2]->text, QString("At last"));
+    QCOMPARE(s.crossover.heroKeeps, bits(5, {0, 4}));
+    QCOMPARE(s.crossover.creatures, bits(147, {0, 144}));
+    const int lastArtifact = version == 5 ? 128 : version == 6 ? 143 : 149;
+    QCOMPARE(s.crossover.artifacts, bits(150, {1, lastArtifact}));
+    QCOMPARE(s.startOptions->optionType, 1u);
+    QVERIFY(!c.scenarios[1].startOptions);
+}
+
+void CampaignReaderTest::readsTheMapsBehindTheHeader_data()
+{
+    QTest::addColumn<quint32>("version");
+    QTest::addColumn<int>("level");
+    for (const quint32 version : {5u, 6u, 10u}) {
+        for (const int level : {Z_DEFAULT_COMPRESSION, 0, 1, 9})
+            QTest::newRow(qPrintable(QString("version %1, level %2").arg(version).arg(level)))
+                << version << level;
+    }
+}
+
+void CampaignReaderTest::readsTheMapsBehindTheHeader()
+{
+    QFETCH(quint32, version);
+    QFETCH(int, level);
+    const QByteArray first = samples::mapFile(28);
+    const QByteArray last = samples::mapFile(14);
+    CampaignData c;
+    QVERIFY(!read(c, samples::campaign(version, first, last, level)));
+    QCOMPARE(c.scenarios[0].compressedMap, first);
+    QCOMPARE(c.scenarios[0].mapSize, quint32(first.size()));
+    QCOMPARE(c.scenarios[0].mapHeader->version, 28u);
+    QCOMPARE(c.scenarios[0].mapHeader->headerHeroes.customHeroes.size(), size_t(2));
+    QVERIFY(!c.scenarios[1].mapHeader);
+    QVERIFY(c.scenarios[1].compressedMap.isEmpty());
+    QCOMPARE(c.scenarios[2].compressedMap, last);
+    QCOMPARE(c.scenarios[2].mapHeader->version, 14u);
+}
+
+void CampaignReaderTest::subversionZeroIsReadAlike()
+{
+    samples::Head head;
+    head.subversion = 0;
+    head.name = "Zero";
+    CampaignData c;
+    QVERIFY(!read(c, samples::pack(samples::head(head))));
+    QCOMPARE(c.name, QString("Zero"));
+    QCOMPARE(c.scenarios.size(), size_t(3));
+}
+
+void CampaignReaderTest::readsACampaignWithoutAMap()
+{
+    samples::Head head;
+    head.hasMap = 0;
+    head.customValue = -6;
+    head.scenarioCount = 2;
+    head.mapIdByte = 25;
+    const QByteArray bytes = samples::head(head) + samples::record(10, {"a.e3m"})
+                             + samples::record(10, {"b.e3m", 0, "\1"});
+    CampaignData c;
+    QVERIFY(!read(c, samples::pack(bytes)));
+    QVERIFY(!c.hasMap);
+    QCOMPARE(c.customValue, -6);
+    QCOMPARE(c.scenarioCount, 2u);
+    QCOMPARE(c.mapId, quint8(24));
+    QCOMPARE(c.scenarios.size(), size_t(2));
+    QCOMPARE(c.scenarios[1].prerequisites, bits(2, {0})); // as stored
+}
+
+void CampaignReaderTest::aCampaignWithoutAMapIsACampaignOnTheTable()
+{
+    samples::Head head;
+    head.hasMap = 7; // any byte but 0
+    head.scenarioCount = 4000000000u; // of no meaning with a map, but kept
+    CampaignData c;
+    QVERIFY(!read(c, samples::pack(samples::head(head))));
+    QVERIFY(c.hasMap);
+    QCOMPARE(c.scenarioCount, 4000000000u);
+    QCOMPARE(c.scenarios.size(), size_t(3));
+}
+
+void CampaignReaderTest::theMapsNumberIsStoredPlusOne_data()
+{
+    QTest::addColumn<unsigned>("byte");
+    QTest::addColumn<int>("mapId");
+    QTest::newRow("0") << 1u << 0;
+    QTest::newRow("24") << 25u << 24;
+    QTest::newRow("255") << 0u << 255;
+    QTest::newRow("254") << 255u << 254;
+}
+
+void CampaignReaderTest::theMapsNumberIsStoredPlusOne()
+{
+    QFETCH(unsigned, byte);
+    QFETCH(int, mapId);
+    samples::Head head;
+    head.mapIdByte = byte;
+    CampaignData c;
+    QVERIFY(!read(c, samples::pack(samples::head(head))));
+    QCOMPARE(int(c.mapId), mapId);
+    QCOMPARE(EditorData::info.campaign, quint32(mapId));
+}
+
+void CampaignReaderTest::aMapThatTheTableLacksHasNoScenarios()
+{
+    samples::Head head;
+    head.mapIdByte = 100;
+    CampaignData c;
+    QVERIFY(!read(c, samples::pack(samples::head(head) + samples::record(10, {"a.e3m"}))));
+    QVERIFY(c.scenarios.empty());
+    QCOMPARE(EditorData::campaignInfo.size(), size_t(3));
+}
+
+void CampaignReaderTest::prerequisitesFitTheCountOfScenarios()
+{
+    samples::Head head;
+    head.hasMap = 0;
+    head.scenarioCount = 20; // two are there
+    const QByteArray all("\xFF\xFF\xFF");
+    CampaignData c;
+    QVERIFY(!read(c, samples::pack(samples::head(head) + samples::record(10, {"a", 0, all})
+                                   + samples::record(10, {"b", 0, all}))));
+    QCOMPARE(c.scenarios.size(), size_t(2));
+    QCOMPARE(c.scenarioCount, 2u);
+    QCOMPARE(c.scenarios[0].prerequisites, bits(2, {0, 1}));
+}
+
+void CampaignReaderTest::setsTheEditorsState()
+{
+    EditorData::info.campaign = 9;
+    EditorData::info.region = 2;
+    EditorData::info.modified = true;
+    CampaignData c;
+    QVERIFY(!read(c, samples::pack(samples::campaignRecords(6, 0, 0))));
+    QCOMPARE(EditorData::info.campaign, 3u);
+    QCOMPARE(EditorData::info.version, 6u);
+    QCOMPARE(EditorData::info.region, 0u);
+    QVERIFY(EditorData::info.modified);
+}
+
+void CampaignReaderTest::anOldFileResetsTheNewFields()
+{
+    CampaignData c;
+    c.hasMap = false;
+    c.customValue = 5;
+    c.scenarioCount = 7;
+    c.scenarios.resize(7);
+    QVERIFY(!read(c, samples::pack(samples::campaignRecords(5, 0, 0))));
+    QVERIFY(c.hasMap);
+    QCOMPARE(c.customValue, 0);
+    QCOMPARE(c.scenarioCount, 0u);
+    QCOMPARE(c.scenarios.size(), size_t(3));
+}
+
+void CampaignReaderTest::failuresAreTold_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("text");
+    const QString damaged("Incorrect or damaged file.");
+    QTest::newRow("empty file") << QByteArray() << damaged;
+    QTest::newRow("empty member") << samples::pack("") << damaged;
+    QTest::newRow("damaged in front") << QByteArray("\x1f\x8b rubbish") << damaged;
+    for (const quint32 version : {0u, 4u, 7u, 8u, 9u, 11u, 4294967295u}) {
+        samples::Head head;
+        head.version = version;
+        QTest::newRow(qPrintable(QString("version %1").arg(version)))
+            << samples::pack(samples::head(head))
+            << QString("Invalid campaign file version!\n\nFile version = %1\nCurrent version = 10")
+                   .arg(version);
+    }
+    QTest::newRow("plain text") << QByteArray("\x41\0\0\0", 4)
+                                << QString("Invalid campaign file version!\n\n"
+                                           "File version = 65\nCurrent version = 10");
+    for (const quint32 subversion : {2u, 4294967295u}) {
+        samples::Head head;
+        head.subversion = subversion;
+        QTest::newRow(qPrintable(QString("subversion %1").arg(subversion)))
+            << samples::pack(samples::head(head))
+            << QString("Unsupported version!\n\nFile subversion = %1\nCurrent subversion = 1")
+                   .arg(subversion);
+    }
+    for (const quint32 count : {30001u, 4294967295u}) {
+        samples::Head head;
+        head.hasMap = 0;
+        head.scenarioCount = count;
+        QTest::newRow(qPrintable(QString("%1 scenarios").arg(count)))
+            << samples::pack(samples::head(head)) << damaged;
+    }
+}
+
+void CampaignReaderTest::failuresAreTold()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, text);
+    EditorData::info.campaign = 4;
+    EditorData::info.region = 2;
+    CampaignData c;
+    c.scenarios.resize(2);
+    c.scenarioCount = 2;
+    ReportRecorder recorder;
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    QFile file(write(bytes));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(!c.ReadFromFile(&file));
+    QCOMPARE(recorder.errors.size(), 1);
+    QCOMPARE(recorder.errors[0].title, QString("Error"));
+    QCOMPARE(recorder.errors[0].text, text);
+    QVERIFY(!QGuiApplication::overrideCursor());
+    QVERIFY(c.scenarios.empty());
+    QCOMPARE(c.scenarioCount, 0u);
+    QCOMPARE(EditorData::info.campaign, 4u); // the document in work stays
+    QCOMPARE(EditorData::info.region, 2u);
+}
+
+void CampaignReaderTest::aFileThatCannotBeOpenedIsTold()
+{
+    CampaignData c;
+    ReportRecorder recorder;
+    QFile file(m_folder.filePath("gone.e3c"));
+    QVERIFY(!c.ReadFromFile(&file));
+    QCOMPARE(recorder.errors.size(), 1);
+    QCOMPARE(recorder.errors[0].title, QString("Error"));
+    QCOMPARE(recorder.errors[0].text, "Can't open file " + file.fileName());
+}
+
+void CampaignReaderTest::aPercentInTheNameStays()
+{
+    CampaignData c;
+    QFile file("/nowhere/%1 and %2.e3c");
+    QCOMPARE(*c.readCampaign(&file), QString("Can't open file /nowhere/%1 and %2.e3c"));
+}
+
+void CampaignReaderTest::aFailureLeavesTheOtherFields()
+{
+    CampaignData c;
+    c.name = "kept";
+    c.description = "kept too";
+    c.mapId = 4;
+    c.musicId = 2;
+    c.customValue = 8;
+    c.hasMap = false;
+    samples::Head head;
+    head.version = 7;
+    QVERIFY(read(c, samples::pack(samples::head(head))));
+    QCOMPARE(c.name, QString("kept"));
+    QCOMPARE(c.description, QString("kept too"));
+    QCOMPARE(c.mapId, quint8(4));
+    QCOMPARE(c.musicId, quint8(2));
+    QCOMPARE(c.customValue, 8);
+    QVERIFY(!c.hasMap);
+}
+
+void CampaignReaderTest::theReaderWithoutABoxIsSilent()
+{
+    ReportRecorder recorder;
+    CampaignData c;
+    QCOMPARE(*read(c, {}), QString("Incorrect or damaged file."));
+    QVERIFY(recorder.errors.isEmpty());
+    QFile file(write(samples::pack(samples::campaignRecords(10, 0, 0))));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(c.ReadFromFile(&file));
+    QVERIFY(recorder.errors.isEmpty());
+}
+
+void CampaignReaderTest::readsTheFileWhateverThePositionOfItsHandle()
+{
+    QFile file(write(samples::pack(samples::campaignRecords(10, 0, 0))));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    file.read(20);
+    CampaignData c;
+    QVERIFY(c.ReadFromFile(&file));
+    QCOMPARE(c.scenarios.size(), size_t(3));
+}
+
+QTEST_MAIN(CampaignReaderTest)
+#include "campaign_reader_test.moc"
