@@ -11,6 +11,7 @@ cd "$(dirname "$(realpath "$0")")"
 
 game=$PWD/build/sample-game
 picture=$PWD/build/start.png
+log=$PWD/build/start.log
 
 make_sample_game() {
     if [ ! -e "$game/.complete" ] || [ build/release/sample-game.stamp -nt "$game/.complete" ]; then
@@ -28,7 +29,7 @@ wait_for_window() {
     for i in $(seq 300); do
         window=$(xdotool search --onlyvisible --pid "$editor" --name '.e3c' 2>/dev/null | head -n 1) || true
         [ -n "$window" ] && return 0
-        kill -0 "$editor" 2>/dev/null || die "The editor ended before its window came up."
+        kill -0 "$editor" 2>/dev/null || die "The editor ended before its window came up; its log is in $log."
         sleep 0.2
     done
     die "The editor's window did not come up within a minute."
@@ -48,7 +49,7 @@ take_picture() {
 }
 
 run_on_virtual_display() {
-    local number_file number
+    local number
     number_file=$(mktemp)
     Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$number_file" 2>/dev/null &
     xvfb=$!
@@ -63,13 +64,13 @@ run_on_virtual_display() {
     export SDL_AUDIODRIVER=dummy
     openbox >/dev/null 2>&1 &
     manager=$!
-    "$game/cmped" "$campaign" &
+    "$game/cmped" "$campaign" 2>"$log" &
     editor=$!
     wait_for_window
     take_picture
     say "A picture of the window is in $picture"
     kill -TERM "$editor"
-    wait "$editor" || die "The editor ended with exit status $?."
+    wait "$editor" || die "The editor ended with exit status $?; its log is in $log."
     editor=
     say "The editor was ended and left properly."
 }
