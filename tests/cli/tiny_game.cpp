@@ -202,7 +202,7 @@ QString TinyGame::path(const QString &name) const
 
 QString TinyGame::write(const QString &name, const QByteArray &bytes) const
 {
-    const QString target = path(name);
+    QString target = path(name);
     QFile file(target);
     const bool written = QDir().mkpath(QFileInfo(target).path()) &&
                          file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();

@@ -1,0 +1,87 @@
+#include "gamedata/locale_codec.h"
+
+#include <QTextCodec>
+#include <QtTest>
+
+class LocaleCodecTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void namedCodecIsSet();
+    void codecThatCannotNameFilesIsRefused_data();
+    void codecThatCannotNameFilesIsRefused();
+    void localeDecidesWithoutAName_data();
+    void localeDecidesWithoutAName();
+    void numbersKeepTheirPoint();
+};
+
+namespace {
+
+QByteArray currentCodec()
+{
+    return QTextCodec::codecForLocale()->name().toLower();
+}
+
+} // namespace
+
+void LocaleCodecTest::namedCodecIsSet()
+{
+    QVERIFY(setLocaleCodec(QStringLiteral("Windows-1251")));
+    QCOMPARE(currentCodec(), QByteArray("windows-1251"));
+    QCOMPARE(QString::fromLocal8Bit("\xcf\xf3\xf2\xfc"),
+             QStringLiteral("\u041f\u0443\u0442\u044c"));
+    QVERIFY(setLocaleCodec(QStringLiteral("cp1252")));
+    QCOMPARE(currentCodec(), QByteArray("windows-1252"));
+    QVERIFY(setLocaleCodec(QStringLiteral("UTF-8")));
+    QCOMPARE(currentCodec(), QByteArray("utf-8"));
+}
+
+void LocaleCodecTest::codecThatCannotNameFilesIsRefused_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("unknown") << "Klingon-8";
+    QTest::newRow("two bytes a letter") << "UTF-16LE";
+    QTest::newRow("other letters") << "IBM037";
+    QTest::newRow("no ASCII name") << QStringLiteral("\u041f");
+}
+
+void LocaleCodecTest::codecThatCannotNameFilesIsRefused()
+{
+    QFETCH(QString, name);
+    QVERIFY(setLocaleCodec(QStringLiteral("KOI8-R")));
+    const QByteArray before = currentCodec();
+    QVERIFY(!setLocaleCodec(name));
+    QCOMPARE(currentCodec(), before);
+}
+
+void LocaleCodecTest::localeDecidesWithoutAName_data()
+{
+    QTest::addColumn<QByteArray>("locale");
+    QTest::addColumn<QByteArray>("codec");
+    QTest::newRow("UTF-8") << QByteArray("C.UTF-8") << QByteArray("utf-8");
+    QTest::newRow("plain ASCII") << QByteArray("C") << QByteArray("utf-8");
+    QTest::newRow("no such locale") << QByteArray("xx_XX.KOI8-R") << QByteArray("utf-8");
+    // A code page can be tried only where the system has a locale with it.
+    if (setlocale(LC_ALL, "ru_RU.CP1251"))
+        QTest::newRow("code page") << QByteArray("ru_RU.CP1251") << QByteArray("windows-1251");
+}
+
+void LocaleCodecTest::localeDecidesWithoutAName()
+{
+    QFETCH(QByteArray, locale);
+    QFETCH(QByteArray, codec);
+    qputenv("LC_ALL", locale);
+    QVERIFY(setLocaleCodec(QStringLiteral("KOI8-R")));
+    QVERIFY(setLocaleCodec(QString()));
+    QCOMPARE(currentCodec(), codec);
+}
+
+void LocaleCodecTest::numbersKeepTheirPoint()
+{
+    QVERIFY(setLocaleCodec(QString()));
+    QCOMPARE(QByteArray(setlocale(LC_NUMERIC, nullptr)), QByteArray("C"));
+}
+
+QTEST_GUILESS_MAIN(LocaleCodecTest)
+#include "locale_codec_test.moc"
