@@ -22,7 +22,7 @@ inline Tone mix(const Tone &a, const Tone &b, double t)
 
 inline int toByte(double value)
 {
-    return value <= 0.0 ? 0 : (value >= 255.0 ? 255 : static_cast<int>(value + 0.5));
+    return value <= 0.0 ? 0 : (value >= 255.0 ? 255 : qRound(value));
 }
 
 inline QRgb pack(const Tone &t)

@@ -40,12 +40,12 @@ Cell cellAt(const QVector<QPointF> &sites, double x, double y)
 }
 
 // Moves each site to the middle of its cell, which evens the cells out.
-void relax(QVector<QPointF> &sites, const QRectF &area)
+void relax(QVector<QPointF> &sites, const QRect &area)
 {
     QVector<QPointF> sums(sites.size(), QPointF(0, 0));
     QVector<int> counts(sites.size(), 0);
-    for (double y = area.top(); y < area.bottom(); y += 6)
-        for (double x = area.left(); x < area.right(); x += 6) {
+    for (int y = area.top(); y <= area.bottom(); y += 6)
+        for (int x = area.left(); x <= area.right(); x += 6) {
             const int i = cellAt(sites, x, y).nearest;
             sums[i] += QPointF(x, y);
             ++counts[i];
@@ -57,14 +57,14 @@ void relax(QVector<QPointF> &sites, const QRectF &area)
 
 QVector<QPointF> chooseSites(int count, Random &random)
 {
-    const QRectF area(52, 56, kMapWidth - 104, kMapHeight - 112);
+    const QRect area(52, 56, kMapWidth - 104, kMapHeight - 112);
     QVector<QPointF> sites;
     while (sites.size() < count) {
         QPointF best;
         double bestDistance = -1;
         for (int i = 0; i < 12; ++i) {
-            const QPointF p(random.range(area.left(), area.right()),
-                            random.range(area.top(), area.bottom()));
+            const QPointF p(random.range(area.left(), area.left() + area.width()),
+                            random.range(area.top(), area.top() + area.height()));
             const double d = sites.isEmpty() ? 1.0 : cellAt(sites, p.x(), p.y()).distance;
             if (d > bestDistance) {
                 bestDistance = d;

@@ -78,9 +78,9 @@ void drawPoint(QPainter &painter, QPointF centre, double radius, double turns, c
 void drawFrame(QPainter &painter, const ThemeLook &look, const QRectF &outer, double width)
 {
     const auto inset = [&](double by) { return outer.adjusted(by, by, -by, -by); };
-    for (double i = 0.5; i < width; i += 1) {
-        const double round = qSin((i / width) * M_PI);
-        drawRing(painter, inset(i), mix(kWood * 0.55, kWood * 1.5, round), 1.4);
+    for (int i = 0; i + 0.5 < width; ++i) {
+        const double round = qSin(((i + 0.5) / width) * M_PI);
+        drawRing(painter, inset(i + 0.5), mix(kWood * 0.55, kWood * 1.5, round), 1.4);
     }
     drawRing(painter, inset(0.7), kGoldDark, 1.4);
     drawRing(painter, inset(2.2), kGold, 1.6);

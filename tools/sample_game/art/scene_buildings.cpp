@@ -12,9 +12,11 @@ namespace {
 void drawBattlements(QPainter &painter, const StoneTones &tones, double left, double top,
                      double width, double tooth)
 {
-    for (double x = 0; x + tooth <= width + 0.1; x += tooth * 1.8)
+    for (int i = 0; i * tooth * 1.8 + tooth <= width + 0.1; ++i) {
+        const double x = i * tooth * 1.8;
         fillShape(painter, boxOf(left + x, top + 0.5, tooth, tooth * 1.1),
                   toColor(x < width * 0.55 ? tones.light : tones.shade));
+    }
 }
 
 void drawWindow(QPainter &painter, const StoneTones &tones, double x, double y, double size)

@@ -15,15 +15,17 @@ namespace {
 void layStones(QPainter &painter, const QRectF &wall, const Tone &tone, double course,
                Random &random)
 {
-    int row = 0;
-    for (double y = wall.top(); y < wall.bottom(); y += course, ++row)
-        for (double x = wall.left() - (row % 2) * course; x < wall.right(); x += course * 2)
+    for (int row = 0; row * course < wall.height(); ++row)
+        for (int i = 0; (2 * i - row % 2) * course < wall.width(); ++i) {
+            const double x = wall.left() + (2 * i - row % 2) * course;
+            const double y = wall.top() + row * course;
             fillShape(painter,
                       polygon({{x + 0.8, y + 0.8},
                                {x + course * 2 - 0.8, y + 0.8},
                                {x + course * 2 - 0.8, y + course - 0.8},
                                {x + 0.8, y + course - 0.8}}),
                       toColor(tone * random.range(0.86, 1.12)));
+        }
 }
 
 // Three tall windows of coloured glass.
