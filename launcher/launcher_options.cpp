@@ -7,6 +7,13 @@ namespace {
 constexpr std::string_view encodingOption = "--encoding";
 constexpr std::string_view encodingPrefix = "--encoding=";
 
+void setEncoding(LauncherOptions &options, std::string_view name)
+{
+    options.encoding = name;
+    if (name.empty())
+        options.error = "--encoding needs the name of an encoding";
+}
+
 } // namespace
 
 LauncherOptions readLauncherOptions(int argc, char **argv)
@@ -23,12 +30,10 @@ LauncherOptions readLauncherOptions(int argc, char **argv)
             options.help = true;
         } else if (argument == "--version") {
             options.version = true;
-        } else if (argument == encodingOption && i + 1 < argc) {
-            options.encoding = argv[++i];
         } else if (argument == encodingOption) {
-            options.error = "--encoding needs the name of an encoding";
+            setEncoding(options, i + 1 < argc ? argv[++i] : "");
         } else if (argument.substr(0, encodingPrefix.size()) == encodingPrefix) {
-            options.encoding = argument.substr(encodingPrefix.size());
+            setEncoding(options, argument.substr(encodingPrefix.size()));
         } else {
             options.editorArguments.push_back(argv[i]);
         }

@@ -13,6 +13,17 @@ bool isInstalled(const QString &family)
     return QFontDatabase().hasFamily(family);
 }
 
+// The least that shows every text whole. Lists and previews are content with the form's size,
+// so it is their minimum that counts, and a wrapped text needs its height at this width.
+QSize roomFor(const QDialog *dialog)
+{
+    QSize room = dialog->size().expandedTo(dialog->minimumSizeHint());
+    const QLayout *layout = dialog->layout();
+    if (layout && layout->hasHeightForWidth())
+        room.setHeight(qMax(room.height(), layout->totalHeightForWidth(room.width())));
+    return room;
+}
+
 } // namespace
 
 QFont editorFont(const QString &family)
@@ -30,5 +41,5 @@ void fixDialog(QDialog *dialog)
         dialog->setFont(editorFont(dialog->font().family()));
     dialog->setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     dialog->ensurePolished();
-    dialog->setFixedSize(dialog->size().expandedTo(dialog->sizeHint()));
+    dialog->setFixedSize(roomFor(dialog));
 }

@@ -5,16 +5,20 @@
 #include "gamedata/ini_file.h"
 #include "shell/campaign_map_view.h"
 #include "shell/campaign_region_item.h"
+#include "shell/dialog_look.h"
 #include "shell/editor_resources.h"
 #include "shell/main_window.h"
 #include "shell/message_reporter.h"
 #include "tests/support/message_boxes.h"
 #include "tests/support/tiny_game.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QFileDialog>
 #include <QGraphicsScene>
 #include <QLabel>
+#include <QLineEdit>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTest>
@@ -27,6 +31,7 @@ public:
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
         initEditorResources();
         reportWithMessageBoxes();
+        QApplication::setFont(editorFont());
         game.load();
     }
 
@@ -54,6 +59,15 @@ inline bool show(QWidget &window)
 inline QGraphicsView *mapView(MainWindow &window)
 {
     return window.findChild<QGraphicsView *>("graphicsView");
+}
+
+// Closes the menu that the next event opens, from within its own loop.
+inline void closeNextMenu(QObject *context)
+{
+    QTimer::singleShot(0, context, [] {
+        if (QWidget *menu = QApplication::activePopupWidget())
+            menu->close();
+    });
 }
 
 // Region items in the order of the regions.
@@ -101,4 +115,35 @@ inline QColor throughPixmap(const QColor &colour)
 inline QColor pixelOf(const QGraphicsPixmapItem *item, int x, int y)
 {
     return item->pixmap().toImage().pixelColor(x, y);
+}
+
+// Checks a file dialog's caption, folder and name, then chooses a path, or cancels without one.
+inline NextDialog::Answer chooseFile(const QString &caption, const QString &folder,
+                                     const QString &name, const QString &choice)
+{
+    return [=](QWidget *widget) {
+        auto *dialog = qobject_cast<QFileDialog *>(widget);
+        if (!dialog) {
+            widget->close();
+            QFAIL("Another dialog came in the place of a file dialog.");
+        }
+        auto *edit = dialog->findChild<QLineEdit *>("fileNameEdit");
+        const auto close = [&] {
+            if (choice.isEmpty()) {
+                dialog->reject();
+                return;
+            }
+            edit->setText(choice);
+            QTest::keyClick(dialog->windowHandle(), Qt::Key_Return);
+        };
+        const QString shownCaption = dialog->windowTitle();
+        const QString shownFolder = dialog->directory().path();
+        const QString shownName = edit->text();
+        const QStringList filters = dialog->nameFilters();
+        close();
+        QCOMPARE(shownCaption, caption);
+        QCOMPARE(shownFolder, folder);
+        QCOMPARE(shownName, name);
+        QCOMPARE(filters, QStringList({"Eldmark Saga campaign (*.e3c)", "All Files (*)"}));
+    };
 }

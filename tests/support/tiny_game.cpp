@@ -132,7 +132,7 @@ void addKeeps(Files &files)
     }
 }
 
-void addTexts(Files &files)
+void addTexts(Files &files, const QByteArray &title)
 {
     files["CRTRAITS.TXT"] = wide("Creature ", 20, 2, 0);
     files["artraits.txt"] = wide("Artifact ", 20, 2, 2);
@@ -149,7 +149,7 @@ void addTexts(Files &files)
     files["BldgSpec.txt"] = numbered("Special ", 81);
     files["Dwelling.txt"] = numbered("Dwelling ", 140);
     QByteArray texts = numbered("Text ", 60, "head");
-    texts.replace("Text 0\r\n", "Tiny Campaign Editor\tmore\r\n");
+    texts.replace("Text 0\r\n", title + "\tmore\r\n");
     files["CmpEditr.txt"] = texts;
     files["CmpEdCmd.txt"] = numbered("Hint ", 25, "head");
 }
@@ -257,13 +257,13 @@ QByteArray campaignBytes(unsigned mapId, bool hasMap, int background,
 
 } // namespace
 
-Game::Game(const QByteArray &globalSettings)
+Game::Game(const QByteArray &globalSettings, const QByteArray &title)
 {
     QDir(path()).mkdir("Data");
     QDir(path()).mkdir("Maps");
     QDir(path()).mkdir("Ravn_Data");
     Files files;
-    addTexts(files);
+    addTexts(files, title);
     addKeeps(files);
     addMasks(files, "r0", {40, 30}, 0);
     addMasks(files, "r1", {40, 30}, 10);

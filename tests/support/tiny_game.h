@@ -33,8 +33,10 @@ struct Scenario
 class Game
 {
 public:
-    // Writes the folder. Extra lines go into the settings' "Global Settings".
-    explicit Game(const QByteArray &globalSettings = "Language=0\r\n");
+    // Writes the folder, with these lines under "Global Settings" in the settings and this title
+    // of the application in the game's texts.
+    explicit Game(const QByteArray &globalSettings = "Language=0\r\n",
+                  const QByteArray &title = "Tiny Campaign Editor");
 
     QString path() const { return m_dir.path(); }
     QString filePath(const QString &name) const { return m_dir.filePath(name); }

@@ -1,0 +1,173 @@
+// The launcher: its own options, and what the library it starts shows to the outside.
+#include "launcher/launcher_options.h"
+#include "tests/support/child_process.h"
+#include "tests/support/tiny_game.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+
+class LauncherTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void ownOptionsAreTakenOut_data();
+    void ownOptionsAreTakenOut();
+    void optionsAreRead();
+    void encodingWithoutANameIsAnError();
+    void helpAndVersion();
+    void wrongEncodingEndsWithAMessage_data();
+    void wrongEncodingEndsWithAMessage();
+    void startsTheEditorAndEndsOnSigterm();
+    void libraryExportsRunAlone();
+};
+
+namespace {
+
+LauncherOptions read(QByteArrayList arguments)
+{
+    std::vector<char *> argv;
+    for (QByteArray &argument : arguments)
+        argv.push_back(argument.data());
+    LauncherOptions options = readLauncherOptions(int(argv.size()), argv.data());
+    options.editorArguments.clear(); // they point into the list, which ends here
+    return options;
+}
+
+QByteArrayList editorArguments(QByteArrayList arguments)
+{
+    std::vector<char *> argv;
+    for (QByteArray &argument : arguments)
+        argv.push_back(argument.data());
+    QByteArrayList left;
+    for (const char *argument : readLauncherOptions(int(argv.size()), argv.data()).editorArguments)
+        left << argument;
+    return left;
+}
+
+// Whether a process answers a signal itself, as the kernel tells.
+bool catches(qint64 process, int number)
+{
+    QFile status(QString("/proc/%1/status").arg(process));
+    if (!status.open(QIODevice::ReadOnly))
+        return false;
+    const auto lines = status.readAll().split('\n');
+    for (const QByteArray &line : lines) {
+        if (line.startsWith("SigCgt:"))
+            return line.mid(7).trimmed().toULongLong(nullptr, 16) >> (number - 1) & 1;
+    }
+    return false;
+}
+
+} // namespace
+
+void LauncherTest::ownOptionsAreTakenOut_data()
+{
+    QTest::addColumn<QByteArrayList>("given");
+    QTest::addColumn<QByteArrayList>("left");
+    QTest::newRow("nothing") << QByteArrayList{"cmped"} << QByteArrayList{"cmped"};
+    QTest::newRow("a file") << QByteArrayList{"cmped", "a.e3c"} << QByteArrayList{"cmped", "a.e3c"};
+    QTest::newRow("before") << QByteArrayList{"cmped", "--encoding", "koi8-r", "a.e3c"}
+                            << QByteArrayList{"cmped", "a.e3c"};
+    QTest::newRow("behind") << QByteArrayList{"cmped", "a.e3c", "--encoding=koi8-r"}
+                            << QByteArrayList{"cmped", "a.e3c"};
+    QTest::newRow("options of the toolkit")
+        << QByteArrayList{"cmped", "-platform", "offscreen", "--version"}
+        << QByteArrayList{"cmped", "-platform", "offscreen"};
+    QTest::newRow("behind two dashes")
+        << QByteArrayList{"cmped", "--", "--help"} << QByteArrayList{"cmped", "--help"};
+}
+
+void LauncherTest::ownOptionsAreTakenOut()
+{
+    QFETCH(QByteArrayList, given);
+    QFETCH(QByteArrayList, left);
+    QCOMPARE(editorArguments(given), left);
+}
+
+void LauncherTest::optionsAreRead()
+{
+    QVERIFY(read({"cmped", "--help"}).help);
+    QVERIFY(read({"cmped", "--version"}).version);
+    QCOMPARE(read({"cmped", "--encoding", "koi8-r"}).encoding, std::string("koi8-r"));
+    QCOMPARE(read({"cmped", "--encoding=koi8-r"}).encoding, std::string("koi8-r"));
+    const LauncherOptions none = read({"cmped", "--", "--help"});
+    QVERIFY(!none.help && !none.version && none.encoding.empty() && none.error.empty());
+}
+
+void LauncherTest::encodingWithoutANameIsAnError()
+{
+    QCOMPARE(read({"cmped", "--encoding"}).error,
+             std::string("--encoding needs the name of an encoding"));
+    QCOMPARE(read({"cmped", "--encoding="}).error,
+             std::string("--encoding needs the name of an encoding"));
+}
+
+void LauncherTest::helpAndVersion()
+{
+    const ChildResult help = runChild(builtProgram("cmped"), {"--help"});
+    QCOMPARE(help.exitCode, 0);
+    QVERIFY(help.output.startsWith("Usage: cmped "));
+    QVERIFY(help.output.contains("--encoding NAME"));
+    QVERIFY(help.error.isEmpty());
+    const ChildResult version = runChild(builtProgram("cmped"), {"--version"});
+    QCOMPARE(version.exitCode, 0);
+    QCOMPARE(version.output, QByteArray("cmped " CMPED_VERSION "\n"));
+}
+
+void LauncherTest::wrongEncodingEndsWithAMessage_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("message");
+    QTest::newRow("unknown") << QStringList{"--encoding", "nonsense"}
+                             << QByteArray("cmped: unknown encoding 'nonsense'\n");
+    QTest::newRow("no name") << QStringList{"--encoding"}
+                             << QByteArray("cmped: --encoding needs the name of an encoding\n");
+}
+
+void LauncherTest::wrongEncodingEndsWithAMessage()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, message);
+    const ChildResult result = runChild(builtProgram("cmped"), arguments);
+    QVERIFY(result.exitedNormally);
+    QCOMPARE(result.exitCode, 1);
+    QCOMPARE(result.error, message);
+    QVERIFY(result.output.isEmpty());
+}
+
+void LauncherTest::startsTheEditorAndEndsOnSigterm()
+{
+    const tiny::Game game("Language=0\n");
+    const QTemporaryDir settings;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("CMPED_GAME_DIR", game.path());
+    environment.insert("XDG_CONFIG_HOME", settings.path());
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    QProcess editor;
+    editor.setProcessEnvironment(environment);
+    editor.start(builtProgram("cmped"), {"--encoding", "windows-1251"});
+    QVERIFY(editor.waitForStarted());
+    QTRY_VERIFY_WITH_TIMEOUT(catches(editor.processId(), SIGTERM), 30000);
+    editor.terminate();
+    QVERIFY(editor.waitForFinished());
+    QCOMPARE(editor.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(editor.exitCode(), 0);
+    QFile written(game.filePath("Ravn_settings.ini"));
+    QVERIFY(written.open(QIODevice::ReadOnly));
+    QCOMPARE(written.readAll(), QByteArray("[Global Settings]\r\n\r\nLanguage=0\r\n\r\n\r\n"));
+}
+
+void LauncherTest::libraryExportsRunAlone()
+{
+    const ChildResult names = runChild(
+        "nm", {"-D", "--defined-only", "--format=just-symbols", builtProgram("libcmped.so")});
+    QVERIFY2(names.started && names.exitCode == 0, names.error.constData());
+    QCOMPARE(names.output, QByteArray("run\n"));
+}
+
+QTEST_GUILESS_MAIN(LauncherTest)
+#include "launcher_test.moc"

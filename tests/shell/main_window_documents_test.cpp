@@ -1,0 +1,538 @@
+// New, open, recent files, save, and what is asked about unsaved changes.
+#include "tests/shell/window_fixture.h"
+
+#include <QCloseEvent>
+#include <QDialogButtonBox>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace {
+
+const QString title = "Tiny Campaign Editor";
+
+QByteArray contents(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+ExpectedBox saveQuestion(const QString &name, QMessageBox::StandardButton press)
+{
+    return {title, "Save changes to " + name + "?", QMessageBox::NoIcon,
+            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, press};
+}
+
+} // namespace
+
+class MainWindowDocumentsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+
+    void loadShowsTheCampaign();
+    void loadOfCampaignWithoutMapShowsItsBackground();
+    void loadOfUnreadableFileTellsAndKeepsAll();
+    void loadOfDamagedFileTellsAndKeepsAll_data();
+    void loadOfDamagedFileTellsAndKeepsAll();
+    void loadAsksAboutChangesFirst_data();
+    void loadAsksAboutChangesFirst();
+    void yesWithACancelledSaveDialogGoesOnLoading();
+    void yesSavesTheCurrentFileBeforeLoading();
+    void openTakesTheMapsFolderAndRemembersTheChosenOne();
+    void openCancelledChangesNothing();
+    void saveOfUntitledAsksForAName();
+    void saveAsCancelledChangesNothing();
+    void saveAsStartsWithTheBaseName();
+    void saveWritesTheCurrentFile();
+    void saveThatFailsTellsAndStaysModified();
+    void titleMarksChangesOfNamedFilesOnly();
+    void recentFilesStartWithTheNewest();
+    void sixthRecentFileDropsTheOldest();
+    void reopenedRecentFileMovesToTheTop();
+    void vanishedRecentFileStaysInTheList();
+    void recentFilesReachEveryWindow();
+    void newCampaignWithMap();
+    void newCampaignWithoutMap();
+    void newCampaignCancelledChangesNothing();
+    void newNeitherAsksNorTouchesTheFlag();
+    void closeAsksAboutChanges_data();
+    void closeAsksAboutChanges();
+    void closeOfUnchangedAsksNothing();
+    void defaultAnswerIsYes();
+
+private:
+    QString home(const QString &name) { return fixture->game.filePath("Maps/" + name); }
+
+    std::unique_ptr<WindowFixture> fixture;
+    QString first;
+    QString second;
+};
+
+void MainWindowDocumentsTest::initTestCase()
+{
+    fixture = std::make_unique<WindowFixture>();
+}
+
+void MainWindowDocumentsTest::init()
+{
+    fixture->reset();
+    first = fixture->game.addCampaign("first.e3c", tiny::campaign(24, {{true, 1}, {false, 3}, {}}));
+    second = fixture->game.addCampaign("second.e3c", tiny::campaign(3, {{}, {true, 5}}));
+}
+
+void MainWindowDocumentsTest::loadShowsTheCampaign()
+{
+    MainWindow window(nullptr);
+    EditorData::info.region = 2;
+    window.currentRegion = 2;
+    window.loadFile(second);
+    QCOMPARE(window.windowTitle(), "second.e3c - " + title);
+    QCOMPARE(window.windowFilePath(), second);
+    QCOMPARE(window.campaignId, 3U);
+    QCOMPARE(window.currentRegion, 0U);
+    QCOMPARE(EditorData::info.campaign, 3U);
+    QCOMPARE(EditorData::info.region, 0U);
+    QVERIFY(!EditorData::info.modified);
+    QCOMPARE(regionNameIn(window), QString("West Keep"));
+    QCOMPARE(regionsOf(window).size(), 2);
+    QCOMPARE(window.getRegionColor(1), 5);
+    QCOMPARE(window.getRegionColor(2), 2);
+    QVERIFY(regionsOf(window)[1]->hasScenario);
+    QVERIFY(!QApplication::overrideCursor());
+}
+
+void MainWindowDocumentsTest::loadOfCampaignWithoutMapShowsItsBackground()
+{
+    const QString path =
+        fixture->game.addCampaign("plain.e3c", tiny::campaignWithoutMap(1, {{true, 2}, {}}));
+    MainWindow window(nullptr);
+    window.loadFile(path);
+    QCOMPARE(regionNameIn(window), QString());
+    const auto items = mapView(window)->scene()->items();
+    QCOMPARE(items.size(), 1);
+    QCOMPARE(items[0]->data(256).toInt(), 0);
+    const auto *background = qgraphicsitem_cast<QGraphicsPixmapItem *>(items[0]);
+    QCOMPARE(pixelOf(background, 455, 599), tiny::backgroundColour("plaintwo.pcx"));
+}
+
+void MainWindowDocumentsTest::loadOfUnreadableFileTellsAndKeepsAll()
+{
+    MainWindow window(nullptr);
+    window.loadFile(first);
+    const QString gone = home("gone.e3c");
+    NextDialog box(boxAnswer({"Error", "Cannot read file " + gone + ":\nNo such file or directory.",
+                              QMessageBox::Warning}));
+    window.loadFile(gone);
+    QVERIFY(box.came());
+    QCOMPARE(window.windowTitle(), "first.e3c - " + title);
+    QCOMPARE(window.campaignId, 24U);
+    QVERIFY(!QApplication::overrideCursor());
+}
+
+void MainWindowDocumentsTest::loadOfDamagedFileTellsAndKeepsAll_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("empty") << tiny::gzip("") << "Incorrect or damaged file.";
+    QTest::newRow("old version") << tiny::gzip(QByteArray("\4\0\0\0", 4))
+                                 << "Invalid campaign file version!\n\nFile version = 4\n"
+                                    "Current version = 10";
+    QTest::newRow("new subversion")
+        << tiny::gzip(QByteArray("\12\0\0\0\2\0\0\0", 8))
+        << "Unsupported version!\n\nFile subversion = 2\nCurrent subversion = 1";
+}
+
+void MainWindowDocumentsTest::loadOfDamagedFileTellsAndKeepsAll()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, text);
+    const QString bad = fixture->game.addCampaign("bad.e3c", bytes);
+    MainWindow window(nullptr);
+    window.loadFile(second);
+    bool hourglass = true;
+    NextDialog box([&](QWidget *dialog) {
+        hourglass = QApplication::overrideCursor() != nullptr;
+        boxAnswer({"Error", text, QMessageBox::Critical})(dialog);
+    });
+    window.loadFile(bad);
+    QVERIFY(box.came());
+    QVERIFY(!hourglass);
+    QVERIFY(!QApplication::overrideCursor());
+    QCOMPARE(window.windowTitle(), "second.e3c - " + title);
+    QCOMPARE(window.campaignId, 3U);
+    QCOMPARE(regionsOf(window).size(), 2);
+    QCOMPARE(QSettings("cmped_info", "").value("recentFileList").toStringList(),
+             QStringList(second));
+}
+
+void MainWindowDocumentsTest::loadAsksAboutChangesFirst_data()
+{
+    QTest::addColumn<int>("press");
+    QTest::addColumn<bool>("loads");
+    QTest::newRow("No") << int(QMessageBox::No) << true;
+    QTest::newRow("Cancel") << int(QMessageBox::Cancel) << false;
+}
+
+void MainWindowDocumentsTest::loadAsksAboutChangesFirst()
+{
+    QFETCH(int, press);
+    QFETCH(bool, loads);
+    MainWindow window(nullptr);
+    window.loadFile(first);
+    EditorData::info.modified = true;
+    const QByteArray before = contents(first);
+    NextDialog question(boxAnswer(saveQuestion("first", QMessageBox::StandardButton(press))));
+    window.loadFile(second);
+    QCOMPARE(window.campaignId, loads ? 3U : 24U);
+    QCOMPARE(EditorData::info.modified, !loads);
+    QCOMPARE(contents(first), before);
+}
+
+void MainWindowDocumentsTest::yesWithACancelledSaveDialogGoesOnLoading()
+{
+    MainWindow window(nullptr);
+    EditorData::info.modified = true;
+    NextDialog question(boxAnswer(saveQuestion("Untitled", QMessageBox::Yes)));
+    NextDialog saving(chooseFile("Save As", home("").chopped(1), "Untitled", ""));
+    window.loadFile(second);
+    QVERIFY(saving.came());
+    QCOMPARE(window.campaignId, 3U);
+    QVERIFY(!EditorData::info.modified);
+}
+
+void MainWindowDocumentsTest::yesSavesTheCurrentFileBeforeLoading()
+{
+    const QString old = fixture->game.addCampaign("old.e3c", tiny::campaign(24, {{}, {}, {}}));
+    MainWindow window(nullptr);
+    window.loadFile(old);
+    EditorData::info.modified = true;
+    QFile::remove(old);
+    NextDialog question(boxAnswer(saveQuestion("old", QMessageBox::Yes)));
+    window.loadFile(second);
+    QVERIFY(QFile::exists(old));
+    QCOMPARE(window.campaignId, 3U);
+}
+
+void MainWindowDocumentsTest::openTakesTheMapsFolderAndRemembersTheChosenOne()
+{
+    MainWindow window(nullptr);
+    const QString maps = QDir(home("")).canonicalPath();
+    {
+        NextDialog dialog(chooseFile("Open Map File", maps, "", second));
+        action(window, "actionOpen")->trigger();
+    }
+    QCOMPARE(window.windowTitle(), "second.e3c - " + title);
+    QCOMPARE(QString(ini->GetStringVal("Campaign Editor", "Path", "")), QFileInfo(second).path());
+    QTemporaryDir other;
+    const QString path = other.filePath("third.e3c");
+    QVERIFY(QFile::copy(first, path));
+    {
+        NextDialog dialog(chooseFile("Open Map File", maps, "", path));
+        action(window, "actionOpen")->trigger();
+    }
+    QCOMPARE(QString(ini->GetStringVal("Campaign Editor", "Path", "")), other.path());
+    {
+        NextDialog dialog(chooseFile("Open Map File", other.path(), "", ""));
+        action(window, "actionOpen")->trigger();
+    }
+}
+
+void MainWindowDocumentsTest::openCancelledChangesNothing()
+{
+    MainWindow window(nullptr);
+    NextDialog dialog(chooseFile("Open Map File", QDir(home("")).canonicalPath(), "", ""));
+    action(window, "actionOpen")->trigger();
+    QCOMPARE(window.windowTitle(), "Untitled.e3c - " + title);
+    QCOMPARE(QByteArray(ini->GetStringVal("Campaign Editor", "Path", "x")), QByteArray());
+}
+
+void MainWindowDocumentsTest::saveOfUntitledAsksForAName()
+{
+    MainWindow window(nullptr);
+    const QString path = home("made.e3c");
+    QFile::remove(path);
+    EditorData::info.modified = true;
+    NextDialog dialog(chooseFile("Save As", home("").chopped(1), "Untitled", home("made")));
+    action(window, "actionSave")->trigger();
+    QVERIFY(QFile::exists(path));
+    QVERIFY(!EditorData::info.modified);
+    QCOMPARE(window.windowTitle(), "made.e3c - " + title);
+    QCOMPARE(QString(ini->GetStringVal("Campaign Editor", "Path", "")), QFileInfo(path).path());
+    QVERIFY(!QApplication::overrideCursor());
+    MainWindow again(nullptr);
+    again.loadFile(path);
+    QCOMPARE(again.windowTitle(), "made.e3c - " + title);
+}
+
+void MainWindowDocumentsTest::saveAsCancelledChangesNothing()
+{
+    MainWindow window(nullptr);
+    EditorData::info.modified = true;
+    NextDialog dialog(chooseFile("Save As", home("").chopped(1), "Untitled", ""));
+    action(window, "actionSave")->trigger();
+    QVERIFY(EditorData::info.modified);
+    QCOMPARE(window.windowTitle(), "Untitled.e3c - " + title);
+    QCOMPARE(QByteArray(ini->GetStringVal("Campaign Editor", "Path", "x")), QByteArray());
+    QVERIFY(QSettings("cmped_info", "").value("recentFileList").toStringList().isEmpty());
+}
+
+void MainWindowDocumentsTest::saveAsStartsWithTheBaseName()
+{
+    MainWindow window(nullptr);
+    window.loadFile(second);
+    const QString copy = home("copy.e3c");
+    QFile::remove(copy);
+    NextDialog dialog(chooseFile("Save As", home("").chopped(1), "second", copy));
+    action(window, "actionSave_As")->trigger();
+    QVERIFY(QFile::exists(copy));
+    QCOMPARE(window.windowTitle(), "copy.e3c - " + title);
+}
+
+void MainWindowDocumentsTest::saveWritesTheCurrentFile()
+{
+    MainWindow window(nullptr);
+    window.loadFile(second);
+    QFile::remove(second);
+    EditorData::info.modified = true;
+    action(window, "actionSave")->trigger();
+    QVERIFY(QFile::exists(second));
+    QVERIFY(!EditorData::info.modified);
+    window.loadFile(second);
+    QVERIFY(regionsOf(window)[1]->hasScenario);
+}
+
+void MainWindowDocumentsTest::saveThatFailsTellsAndStaysModified()
+{
+    MainWindow window(nullptr);
+    window.loadFile(first);
+    EditorData::info.modified = true;
+    const QString path = home("no/such/folder.e3c");
+    NextDialog box(
+        boxAnswer({"Error", "Cannot write file " + path + ":\nNo such file or directory.",
+                   QMessageBox::Warning}));
+    window.saveFile(path);
+    QVERIFY(box.came());
+    QVERIFY(EditorData::info.modified);
+    QCOMPARE(window.windowFilePath(), first);
+    QVERIFY(!QApplication::overrideCursor());
+}
+
+void MainWindowDocumentsTest::titleMarksChangesOfNamedFilesOnly()
+{
+    MainWindow window(nullptr);
+    EditorData::info.modified = true;
+    window.updateWindowTitle();
+    QCOMPARE(window.windowTitle(), "Untitled.e3c - " + title);
+    EditorData::info.modified = false;
+    window.loadFile(first);
+    QCOMPARE(window.windowTitle(), "first.e3c - " + title);
+    EditorData::info.modified = true;
+    window.updateWindowTitle();
+    QCOMPARE(window.windowTitle(), "first.e3c* - " + title);
+    window.resetWindowTitle();
+    QCOMPARE(window.windowTitle(), "Untitled.e3c - " + title);
+}
+
+namespace {
+
+QVector<QAction *> recentActions(MainWindow &window)
+{
+    QVector<QAction *> visible;
+    const auto actions = window.findChildren<QAction *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QAction *entry : actions) {
+        if (entry->isVisible() && entry->data().isValid())
+            visible.append(entry);
+    }
+    return visible;
+}
+
+} // namespace
+
+void MainWindowDocumentsTest::recentFilesStartWithTheNewest()
+{
+    MainWindow window(nullptr);
+    window.loadFile(first);
+    window.loadFile(second);
+    const auto actions = recentActions(window);
+    QCOMPARE(actions.size(), 2);
+    QCOMPARE(actions[0]->text(), QString("&1 second.e3c"));
+    QCOMPARE(actions[0]->data().toString(), second);
+    QCOMPARE(actions[1]->text(), QString("&2 first.e3c"));
+    actions[1]->trigger();
+    QCOMPARE(window.windowTitle(), "first.e3c - " + title);
+}
+
+void MainWindowDocumentsTest::sixthRecentFileDropsTheOldest()
+{
+    MainWindow window(nullptr);
+    QStringList expected;
+    for (int i = 1; i <= 6; ++i) {
+        const QString path =
+            fixture->game.addCampaign(QString("n%1.e3c").arg(i), tiny::campaign(3, {{}, {}}));
+        window.loadFile(path);
+        expected.prepend(path);
+    }
+    expected.removeLast();
+    QCOMPARE(QSettings("cmped_info", "").value("recentFileList").toStringList(), expected);
+    const auto actions = recentActions(window);
+    QCOMPARE(actions.size(), 5);
+    QCOMPARE(actions[4]->text(), QString("&5 n2.e3c"));
+}
+
+void MainWindowDocumentsTest::reopenedRecentFileMovesToTheTop()
+{
+    MainWindow window(nullptr);
+    window.loadFile(first);
+    window.loadFile(second);
+    window.loadFile(first);
+    QCOMPARE(QSettings("cmped_info", "").value("recentFileList").toStringList(),
+             QStringList({first, second}));
+}
+
+void MainWindowDocumentsTest::vanishedRecentFileStaysInTheList()
+{
+    MainWindow window(nullptr);
+    window.loadFile(first);
+    window.loadFile(second);
+    QFile::remove(first);
+    NextDialog box(
+        boxAnswer({"Error", "Cannot read file " + first + ":\nNo such file or directory.",
+                   QMessageBox::Warning}));
+    recentActions(window)[1]->trigger();
+    QCOMPARE(QSettings("cmped_info", "").value("recentFileList").toStringList(),
+             QStringList({second, first}));
+}
+
+void MainWindowDocumentsTest::recentFilesReachEveryWindow()
+{
+    MainWindow window(nullptr);
+    MainWindow other(nullptr);
+    window.loadFile(first);
+    QCOMPARE(recentActions(other).size(), 1);
+}
+
+void MainWindowDocumentsTest::newCampaignWithMap()
+{
+    MainWindow window(nullptr);
+    QVERIFY(show(window));
+    window.loadFile(first);
+    EditorData::info.region = 2;
+    NextDialog dialog([](QWidget *widget) {
+        widget->findChild<QListWidget *>("listWidget")->setCurrentRow(1);
+        clickOn(static_cast<QWidget *>(
+            widget->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Ok)));
+    });
+    action(window, "actionNew")->trigger();
+    QCOMPARE(window.windowTitle(), "Untitled.e3c - " + title);
+    QCOMPARE(window.campaignId, 3U);
+    QCOMPARE(EditorData::info.campaign, 3U);
+    QCOMPARE(EditorData::info.region, 0U);
+    QCOMPARE(regionsOf(window).size(), 2);
+    QCOMPARE(regionNameIn(window), QString("West Keep"));
+}
+
+void MainWindowDocumentsTest::newCampaignWithoutMap()
+{
+    MainWindow window(nullptr);
+    QVERIFY(show(window));
+    window.loadFile(second);
+    NextDialog dialog([](QWidget *widget) {
+        clickOn(widget->findChild<QRadioButton *>("campaignWithoutMapBtn"), QPoint(8, 8));
+        widget->findChild<QListWidget *>("listWidget")->setCurrentRow(1);
+        clickOn(static_cast<QWidget *>(
+            widget->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Ok)));
+    });
+    action(window, "actionNew")->trigger();
+    QCOMPARE(window.campaignId, 24U);
+    QCOMPARE(regionNameIn(window), QString());
+    const auto items = mapView(window)->scene()->items();
+    QCOMPARE(items.size(), 1);
+    QCOMPARE(pixelOf(qgraphicsitem_cast<QGraphicsPixmapItem *>(items[0]), 0, 0),
+             tiny::backgroundColour("plaintwo.pcx"));
+    QCOMPARE(window.getRegionColor(0), 2);
+}
+
+void MainWindowDocumentsTest::newCampaignCancelledChangesNothing()
+{
+    MainWindow window(nullptr);
+    QVERIFY(show(window));
+    window.loadFile(second);
+    NextDialog dialog([](QWidget *widget) {
+        widget->findChild<QListWidget *>("listWidget")->setCurrentRow(0);
+        clickOn(static_cast<QWidget *>(
+            widget->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Cancel)));
+    });
+    action(window, "actionNew")->trigger();
+    QCOMPARE(window.windowTitle(), "second.e3c - " + title);
+    QCOMPARE(window.campaignId, 3U);
+}
+
+void MainWindowDocumentsTest::newNeitherAsksNorTouchesTheFlag()
+{
+    MainWindow window(nullptr);
+    QVERIFY(show(window));
+    window.loadFile(second);
+    EditorData::info.modified = true;
+    NextDialog dialog([](QWidget *widget) {
+        QCOMPARE(widget->objectName(), QString("newcampaign"));
+        clickOn(static_cast<QWidget *>(
+            widget->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Ok)));
+    });
+    action(window, "actionNew")->trigger();
+    QVERIFY(EditorData::info.modified);
+    QCOMPARE(window.windowTitle(), "Untitled.e3c - " + title);
+}
+
+void MainWindowDocumentsTest::closeAsksAboutChanges_data()
+{
+    QTest::addColumn<int>("press");
+    QTest::addColumn<bool>("closes");
+    QTest::newRow("No") << int(QMessageBox::No) << true;
+    QTest::newRow("Yes") << int(QMessageBox::Yes) << true;
+    QTest::newRow("Cancel") << int(QMessageBox::Cancel) << false;
+}
+
+void MainWindowDocumentsTest::closeAsksAboutChanges()
+{
+    QFETCH(int, press);
+    QFETCH(bool, closes);
+    MainWindow window(nullptr);
+    window.loadFile(first);
+    EditorData::info.modified = true;
+    NextDialog question(boxAnswer(saveQuestion("first", QMessageBox::StandardButton(press))));
+    QCloseEvent event;
+    QApplication::sendEvent(&window, &event);
+    QCOMPARE(event.isAccepted(), closes);
+    QCOMPARE(EditorData::info.modified, press != int(QMessageBox::Yes));
+}
+
+void MainWindowDocumentsTest::closeOfUnchangedAsksNothing()
+{
+    MainWindow window(nullptr);
+    QVERIFY(show(window));
+    QVERIFY(window.close());
+}
+
+void MainWindowDocumentsTest::defaultAnswerIsYes()
+{
+    MainWindow window(nullptr);
+    window.loadFile(first);
+    EditorData::info.modified = true;
+    NextDialog question([](QWidget *widget) {
+        auto *box = qobject_cast<QMessageBox *>(widget);
+        QVERIFY(box);
+        QVERIFY(!box->parentWidget());
+        QCOMPARE(box->defaultButton(), box->button(QMessageBox::Yes));
+        box->done(QMessageBox::Cancel);
+    });
+    QCloseEvent event;
+    QApplication::sendEvent(&window, &event);
+    QVERIFY(question.came());
+}
+
+QTEST_MAIN(MainWindowDocumentsTest)
+#include "main_window_documents_test.moc"

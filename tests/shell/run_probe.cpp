@@ -1,0 +1,116 @@
+// Runs the editor's library as the launcher does, watches it from within its own event loops and
+// prints what it sees, a line each:
+//
+//   box|TITLE|TEXT|ICON|BUTTONS|is the main window visible    line feeds as "\n"; then presses OK
+//   window|TITLE|MENU|SPLASH|FONT SIZE|COMBO ANIMATION|HIGH DPI SCALING|HIGH DPI PIXMAPS
+//
+// When the window is there, RUN_PROBE_END says how the program is ended: "exit" by its menu,
+// "close" by the window's button, or a signal's number.
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSplashScreen>
+#include <QTextCodec>
+#include <QTimer>
+
+#include <csignal>
+#include <cstdio>
+
+extern "C" int run(int argc, char **argv);
+
+namespace {
+
+constexpr int lookInterval = 5; // milliseconds
+
+void print(const QStringList &columns)
+{
+    std::printf("%s\n", columns.join('|').replace('\n', "\\n").toUtf8().constData());
+    std::fflush(stdout);
+}
+
+QMainWindow *visibleWindow()
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        auto *window = qobject_cast<QMainWindow *>(widget);
+        if (window && window->isVisible())
+            return window;
+    }
+    return nullptr;
+}
+
+// Which of the built-in pictures the splash screen shows.
+QString splashName()
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        const auto *splash = qobject_cast<QSplashScreen *>(widget);
+        if (!splash)
+            continue;
+        const QImage shown = splash->pixmap().toImage();
+        for (const char *language : {"en", "ru"}) {
+            const QPixmap picture(QString(":/icons/ravn_cmped_%1.png").arg(language));
+            if (!shown.isNull() && shown == picture.toImage())
+                return language + QString(splash->isVisible() ? " visible" : " hidden");
+        }
+    }
+    return "none";
+}
+
+void answerBox()
+{
+    auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+    if (!box || !box->isVisible())
+        return;
+    print({"box", box->windowTitle(), box->text(), QString::number(box->icon()),
+           QString::number(int(box->standardButtons())), visibleWindow() ? "1" : "0"});
+    box->button(QMessageBox::Ok)->click();
+}
+
+void endProgram(QMainWindow *window)
+{
+    const QByteArray way = qgetenv("RUN_PROBE_END");
+    if (way == "exit")
+        window->findChild<QAction *>("actionExit")->trigger();
+    else if (way == "close")
+        window->close();
+    else
+        std::raise(way.toInt());
+}
+
+void look()
+{
+    static bool seen = false;
+    answerBox();
+    QMainWindow *window = visibleWindow();
+    // The splash screen goes last: before that the start-up is still under way.
+    if (!window || seen || splashName().endsWith("visible"))
+        return;
+    seen = true;
+    print({"window", window->windowTitle(), window->menuBar()->actions().first()->text(),
+           splashName(), QString::number(QApplication::font().pointSize()),
+           QString::number(QApplication::isEffectEnabled(Qt::UI_AnimateCombo)),
+           QString::number(QCoreApplication::testAttribute(Qt::AA_EnableHighDpiScaling)),
+           QString::number(QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps))});
+    QTimer::singleShot(0, window, [window] { endProgram(window); });
+}
+
+void startLooking()
+{
+    auto *timer = new QTimer(QCoreApplication::instance());
+    QObject::connect(timer, &QTimer::timeout, look);
+    timer->start(lookInterval);
+}
+
+} // namespace
+
+Q_COREAPP_STARTUP_FUNCTION(startLooking)
+
+int main(int argc, char **argv)
+{
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    return run(argc, argv);
+}
