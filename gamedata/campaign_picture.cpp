@@ -12,8 +12,7 @@ namespace {
 QImage computedPicture(const CampaignRegion &shape, unsigned map, unsigned region, unsigned state,
                        unsigned colour)
 {
-    if (const QImage *cached =
-            preloadArchive->getLargeGeneratedImage(map, region, state, colour))
+    if (const QImage *cached = preloadArchive->getLargeGeneratedImage(map, region, state, colour))
         return *cached;
     const QImage image = createGeneratedImage(colour, map, region, state, shape.fillImage,
                                               shape.borderImage, shape.glowImage);
@@ -48,5 +47,6 @@ RegionPicture regionPicture(unsigned map, unsigned region, unsigned state, unsig
     if (info.generated)
         return {computedPicture(shape, map, region, state, colour), {}};
     const QString name = readyMadeName(shape, state, colour);
-    return {OpenPcx8Image(name), name};
+    const QImage image = OpenPcx8Image(name);
+    return {image, image.isNull() ? name : QString()};
 }
