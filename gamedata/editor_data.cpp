@@ -1,6 +1,7 @@
 #include "gamedata/editor_data.h"
 
 #include "gamedata/game_dir.h"
+#include "gamedata/limits.h"
 #include "gamedata/report.h"
 #include "gamedata/table_text.h"
 
@@ -122,7 +123,8 @@ QStringList EditorData::readTxtFile(const QString &name, QTextCodec *textCodec)
     const std::unique_ptr<char[]> bytes(getLodFileData(name, &size));
     if (!bytes)
         endWithMessage(mainWindowText("Can't find %1 file in lod file").arg(name));
-    return table_text::allLines(table_text::decoded(bytes.get(), size, textCodec));
+    const int length = int(std::min<qint64>(size, limits::textTableBytes));
+    return table_text::allLines(table_text::decoded(bytes.get(), length, textCodec));
 }
 
 // NOLINTNEXTLINE(performance-unnecessary-value-param): the signature is agreed

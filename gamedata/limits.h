@@ -12,8 +12,9 @@ constexpr qint64 deflateRatio = 1032;
 // Scenarios of a campaign without a map.
 constexpr quint32 scenarios = 30000;
 
-// Inflated bytes of a campaign's first member: 30,000 scenarios with their bit arrays need 120 MB.
-constexpr qint64 campaignHeaderBytes = qint64(256) * 1024 * 1024;
+// Inflated bytes of a campaign's first member that are passed through in search of its end.
+// 30,000 scenarios with their bit arrays and texts take 137 MB.
+constexpr qint64 campaignHeaderBytes = qint64(160) * 1024 * 1024;
 
 // What a campaign's header and records may take of that apart from prerequisites: texts, mostly.
 // For 30,000 scenarios that is 800 bytes each.
@@ -26,7 +27,7 @@ constexpr qint64 bonusBytes = 96;
 constexpr quint32 bitsWithoutData = 65536;
 
 // A map file, packed as it is.
-constexpr qint64 mapBytes = qint64(1024) * 1024 * 1024;
+constexpr qint64 mapBytes = qint64(256) * 1024 * 1024;
 
 // Inflated bytes of a map that are looked at; a header is some kilobytes long.
 constexpr qint64 mapHeaderBytes = qint64(4) * 1024 * 1024;
@@ -37,6 +38,10 @@ constexpr qint64 mapHeaderRatio = 8;
 
 // One unpacked entry of an archive. The largest pictures are a few megabytes.
 constexpr qint64 archiveEntryBytes = qint64(64) * 1024 * 1024;
+
+// What is read of a text table of the archives. Split into its lines a text takes many times its
+// own size, and the game's largest table has some hundred kilobytes.
+constexpr qint64 textTableBytes = qint64(4) * 1024 * 1024;
 
 // The settings file and the table file.
 constexpr qint64 settingsBytes = qint64(4) * 1024 * 1024;

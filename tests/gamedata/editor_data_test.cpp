@@ -1,3 +1,4 @@
+#include "gamedata/limits.h"
 #include "tests/gamedata/game_files.h"
 #include "tests/support/report_recorder.h"
 
@@ -91,9 +92,18 @@ private slots:
         QCOMPARE(lastWordsOfStart(), QString());
     }
 
+    void folderWithoutArchivesHasNoTables_data()
+    {
+        QTest::addColumn<bool>("folderIsThere");
+        QTest::newRow("empty") << true;
+        QTest::newRow("missing") << false;
+    }
     void folderWithoutArchivesHasNoTables()
     {
+        QFETCH(bool, folderIsThere);
         const GameFolder game;
+        if (!folderIsThere)
+            QVERIFY(QDir().rmdir(game.dataPath(QString())));
         QCOMPARE(lastWordsOfStart(), missing(QStringLiteral("CRTRAITS.TXT")));
         QVERIFY(EditorData::lod_archives.empty());
     }
@@ -242,6 +252,22 @@ private slots:
         QTextCodec *const cyrillic = QTextCodec::codecForName("Windows-1251");
         QCOMPARE(EditorData::readTxtFile(QStringLiteral("a.txt"), cyrillic),
                  QStringList{u8"\u0434\u0430"});
+        QCOMPARE(EditorData::readTxtFile(QStringLiteral("a.txt"), nullptr),
+                 QStringList{u8"\u00E4\u00E0"});
+    }
+
+    void textIsReadUpToItsLimit()
+    {
+        constexpr int limit = 4 * 1024 * 1024;
+        QCOMPARE(limits::textTableBytes, qint64(limit));
+        const GameFolder game;
+        game.provide({{"at.txt", QByteArray(limit - 5, 'a') + "\r\nend"},
+                      {"past.txt", QByteArray(limit - 4, 'a') + "\r\nend"}});
+        const auto lastLine = [](const char *name) {
+            return EditorData::readTxtFile(QString::fromLatin1(name), game_files::codec()).last();
+        };
+        QCOMPARE(lastLine("at.txt"), QStringLiteral("end"));
+        QCOMPARE(lastLine("past.txt"), QStringLiteral("en"));
     }
 
     void simpleTablesNumberTheirLines()
@@ -261,12 +287,13 @@ private slots:
     {
         const GameFolder game;
         auto texts = smallTexts();
-        texts["PriSkill.txt"] = "Might\r\nGuard\r\nLore\r\nWit";
-        texts["JKTEXT.txt"] = "first\r\nsecond\r\nthird";
+        texts["PriSkill.txt"] = "Might\r\nGuard\r\nLore\r\n\x80";
+        texts["JKTEXT.txt"] = "first\r\n\x80\r\nthird";
         game.open(texts);
-        QCOMPARE(EditorData::primarySkills,
-                 (std::map<int, QString>{{0, "Might"}, {1, "Guard"}, {2, "Lore"}, {3, "Wit"}}));
-        QCOMPARE(EditorData::jktext, (std::map<int, QString>{{0, "first"}, {1, "second"}}));
+        QCOMPARE(
+            EditorData::primarySkills,
+            (std::map<int, QString>{{0, "Might"}, {1, "Guard"}, {2, "Lore"}, {3, u8"\u20AC"}}));
+        QCOMPARE(EditorData::jktext, (std::map<int, QString>{{0, "first"}, {1, u8"\u20AC"}}));
         QCOMPARE(EditorData::skillLevels,
                  (std::map<int, QString>{{1, "Basic"}, {2, "Advanced"}, {3, "Expert"}}));
     }
