@@ -64,8 +64,10 @@ public:
     // (delete[]) with a zero byte behind it; null if no archive has it.
     static char *getLodFileData(const QString &name, int *size = nullptr);
 
-    // The lines of a text table. A missing one ends the process.
+    // The lines of a text table, empty ones included, up to the first zero byte. A missing table
+    // ends the process. Without a codec the bytes are taken as Latin-1.
     static QStringList readTxtFile(const QString &name, QTextCodec *codec);
+    // Numbers the lines that aren't blank from 0 and adds them to the target, columns and all.
     static void parseTextSimple(std::map<int, QString> &target, QString name, QTextCodec *codec,
                                 bool dropLastLine);
 
@@ -95,8 +97,15 @@ QString textOf(const std::map<int, QStringList> &table, int row, int column = 0)
 // The application's title in the game's language.
 QString cmpEditorTitle();
 
+// How many creatures the lines of their text table and the table file name together. Takes the
+// header off the lines, so that only rows are left.
 unsigned getCreatureCount(QStringList &lines);
+
+// False for the creatures that no hero takes along into the next scenario.
 bool monsterIsGoodForCrossoverList(unsigned creature);
 
+// The highest level that the mage guild of a town of this type reaches.
 int GetMaxGuildLevel(int town);
+
+// Whether a town of this type can have the building, by the game's rules; asks no table.
 bool BuildingIsValidForTown(unsigned building, unsigned town);

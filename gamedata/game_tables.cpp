@@ -62,7 +62,6 @@ void addEntryNames(std::map<int, QString> &target, const char *kind, int string,
 
 } // namespace
 
-// Takes the two header lines off `lines`, so that only rows are left to walk.
 unsigned getCreatureCount(QStringList &lines)
 {
     table_text::dropFirst(lines, 2);
