@@ -171,6 +171,20 @@ private slots:
         QCOMPARE(int(EditorData::buildings.size()), 12);
     }
 
+    void listOfTheTableFileReplacesATownsSpecials()
+    {
+        const GameFolder game;
+        useTable({{"casspcost9", {{7, list("first", 10)}}},
+                  {"casspcost9", {{6, "no"}, {7, "\r\nzero\r\n\r\n\x80 Mill\r\n"}, {8, "no"}}},
+                  {"casspcost0", {{7, list("nobody's", 10)}}},
+                  {"casspcost", {{7, list("nobody's", 10)}}}});
+        readBuildings(game, numberedTexts());
+        QCOMPARE(EditorData::buildings[9][27], QString(u8"\u20AC Mill"));
+        QCOMPARE(EditorData::buildings[9][20], QString());
+        QCOMPARE(EditorData::buildings[0][17], QStringLiteral("s6"));
+        QCOMPARE(EditorData::buildings[-1][17], QStringLiteral("s80"));
+    }
+
     void hordeIsAppendedInTheOrderOfTheFile_data()
     {
         QTest::addColumn<int>("listLength");
@@ -206,9 +220,9 @@ private slots:
     {
         const GameFolder game;
         auto texts = numberedTexts();
-        texts["BldgNeut.TXT"] = "a\tx\r\nno row\r\n\tb\r\n\t\r\nc\tx\ty\r\n\r\nd\tx\r\nlast\tx";
+        texts["BldgNeut.TXT"] = "\x80\tx\r\nno row\r\n\tb\r\n\t\r\nc\tx\ty\r\n\r\nd\tx\r\nlast\tx";
         readBuildings(game, texts);
-        QCOMPARE(EditorData::buildings[-1][11], QStringLiteral("a"));
+        QCOMPARE(EditorData::buildings[-1][11], QString(u8"\u20AC"));
         QCOMPARE(EditorData::buildings[-1][12], QString()); // "\tb"
         QCOMPARE(EditorData::buildings[-1][13], QStringLiteral("d"));
         QCOMPARE(EditorData::buildings[-1][14], QString());
@@ -219,14 +233,14 @@ private slots:
         const GameFolder game;
         auto texts = numberedTexts();
         texts["BldgSpec.txt"] = "s0\tx\r\n \t\r\ns1\r\n\r\n\tunnamed\r\n"
-                                "s3\r\ns4";
-        texts["Dwelling.txt"] = "\r\nd0\tx\r\n\t\r\nd1\r\n";
+                                "s3\r\n\x80";
+        texts["Dwelling.txt"] = "\r\nd0\tx\r\n\t\r\n\x80\r\n";
         readBuildings(game, texts);
         QCOMPARE(EditorData::buildings[0][18], QStringLiteral("s0"));
         QCOMPARE(EditorData::buildings[0][30], QStringLiteral("s1"));
-        QCOMPARE(EditorData::buildings[0][20], QStringLiteral("s4"));
+        QCOMPARE(EditorData::buildings[0][20], QString(u8"\u20AC"));
         QCOMPARE(EditorData::buildings[0][22], QStringLiteral("d0"));
-        QCOMPARE(EditorData::buildings[0][25], QStringLiteral("d1"));
+        QCOMPARE(EditorData::buildings[0][25], QString(u8"\u20AC"));
         QCOMPARE(EditorData::buildings[0][28], QString());
     }
 

@@ -53,8 +53,8 @@ private slots:
     void readyMadeLayout()
     {
         const CampaignInfo map = readLayout({"0", "2", "10 20", "-30 +40", "North Coast",
-                                             "A1.pcx A2.pcx A3.pcx", "B1.pcx B2.pcx", "C1.pcx",
-                                             "South", "D1.pcx D2.pcx", "E1.pcx", "F1.pcx F2.pcx"});
+                                             "A1.pcx A2.pcx A3.pcx", " B1.pcx  B2.pcx", "C1.pcx",
+                                             "\x80", "D1.pcx D2.pcx", "E1.pcx", "F1.pcx F2.pcx"});
         QCOMPARE(map.name, QStringLiteral("Name of campmap3"));
         QCOMPARE(map.backgroundName, QStringLiteral("Back.pcx"));
         QCOMPARE(map.layoutType, 0);
@@ -66,10 +66,10 @@ private slots:
         QCOMPARE(map.regions[0].name, QStringLiteral("North Coast"));
         QCOMPARE(map.regions[0].imageNames,
                  (QVector<QStringList>{
-                     {"A1.pcx", "A2.pcx", "A3.pcx"}, {"B1.pcx", "B2.pcx"}, {"C1.pcx"}}));
+                     {"A1.pcx", "A2.pcx", "A3.pcx"}, {"", "B1.pcx", "", "B2.pcx"}, {"C1.pcx"}}));
         QCOMPARE(map.regions[1].x, -30);
         QCOMPARE(map.regions[1].y, 40);
-        QCOMPARE(map.regions[1].name, QStringLiteral("South"));
+        QCOMPARE(map.regions[1].name, QString(u8"\u20AC"));
         QCOMPARE(map.regions[1].imageNames,
                  (QVector<QStringList>{{"D1.pcx", "D2.pcx"}, {"E1.pcx"}, {"F1.pcx", "F2.pcx"}}));
         QCOMPARE(map.regions[0].glowImage + map.regions[0].borderImage + map.regions[0].fillImage,
@@ -269,12 +269,12 @@ private slots:
     {
         const GameFolder game;
         auto texts = emptyTexts();
-        texts["CmpEditr.txt"] = "Head\r\nHead\r\nTitle\ta\t\tb\r\n\r\n \t\r\n\tsecond\r\nlast";
-        texts["CmpEdCmd.txt"] = "\r\nHead\r\nOpen\tx\r\nSave\r\n";
+        texts["CmpEditr.txt"] = "Head\r\nHead\r\nTitle\ta\t\tb\r\n\r\n \t\r\n\tsecond\r\n\x80";
+        texts["CmpEdCmd.txt"] = "\r\nHead\r\nOpen\tx\r\n\x80\r\n";
         initCampaigns(game, texts);
         QCOMPARE(EditorData::editorText,
-                 (Rows{{0, {"Title", "a", "", "b"}}, {1, {"", "second"}}, {2, {"last"}}}));
-        QCOMPARE(EditorData::editorCmdText, (Rows{{0, {"Open", "x"}}, {1, {"Save"}}}));
+                 (Rows{{0, {"Title", "a", "", "b"}}, {1, {"", "second"}}, {2, {u8"\u20AC"}}}));
+        QCOMPARE(EditorData::editorCmdText, (Rows{{0, {"Open", "x"}}, {1, {u8"\u20AC"}}}));
     }
 
     void backgroundsAreNumberedOverAllEntries()
@@ -312,13 +312,21 @@ private slots:
             QCOMPARE(EditorData::colors[size_t(i)], QStringLiteral("c%1").arg(i));
     }
 
+    void coloursAreInTheGamesEncoding()
+    {
+        const GameFolder game;
+        game.provide({{"PlColors.txt", "Red\tx\r\n\x80"}});
+        EditorData::readColors(game_files::codec());
+        QCOMPARE(EditorData::colors, (std::vector<QString>{"Red\tx", u8"\u20AC"}));
+    }
+
     void musicOfTheTextTableLosesTheLastLine()
     {
         const GameFolder game;
         auto texts = emptyTexts();
-        texts["CmpMusic.txt"] = "March\tx\r\n\r\nDirge\r\n \r\nlast";
+        texts["CmpMusic.txt"] = "March\tx\r\n\r\n\x80\r\n \r\nlast";
         initCampaigns(game, texts);
-        QCOMPARE(EditorData::musicNames, (Names{{0, "March\tx"}, {1, "Dirge"}}));
+        QCOMPARE(EditorData::musicNames, (Names{{0, "March\tx"}, {1, u8"\u20AC"}}));
     }
 
     void musicOfTheTableFileStartsAt49()
@@ -376,7 +384,7 @@ private slots:
     {
         const GameFolder game;
         auto texts = emptyTexts();
-        texts["CmpMovie.txt"] = "first\r\nsecond";
+        texts["CmpMovie.txt"] = "first\r\n\x80";
         useTable({{"video", {{4, "a"}}},
                   {"video9", {{4, ""}, {5, "five"}}},
                   {"video8", {{3, "too few strings"}}},
@@ -384,7 +392,7 @@ private slots:
                   {"video2", {{4, "\x80"}}}});
         initCampaigns(game, texts);
         QCOMPARE(EditorData::videoNames,
-                 (Names{{0, "first"}, {1, "second"}, {2, "a"}, {5, u8"\u20AC"}}));
+                 (Names{{0, "first"}, {1, u8"\u20AC"}, {2, "a"}, {5, u8"\u20AC"}}));
     }
 
     void movieImagesOfALaterEntryOverwrite()

@@ -38,9 +38,9 @@ private slots:
     void creatureRowsNeedTwelveColumnsToCount()
     {
         const GameFolder game;
-        readCreatures(game, {row("Goat", 12), row("Short", 11), "", "\t\t\t\t\t\t\t\t\t\t\t\t",
+        readCreatures(game, {row("\x80", 12), row("Short", 11), "", "\t\t\t\t\t\t\t\t\t\t\t\t",
                              row("Mole", 13), "Lone", row("Wolf", 40)});
-        QCOMPARE(EditorData::creatures, (Names{{0, "Goat"}, {1, "Mole"}, {2, "Wolf"}}));
+        QCOMPARE(EditorData::creatures, (Names{{0, u8"\u20AC"}, {1, "Mole"}, {2, "Wolf"}}));
         QCOMPARE(EditorData::nCreatures, 150U);
     }
 
@@ -69,14 +69,14 @@ private slots:
     {
         const GameFolder game;
         useTable({{"monst1", {{3, "Ram"}}},
-                  {"monst151", {{3, "Imp"}, {4, "Imps"}}},
+                  {"monst151", {{3, "\x80"}, {4, "Imps"}}},
                   {"monster3", {{3, "not one"}}},
                   {"monst180", {{3, "Old"}}},
                   {"monst180", {{3, "New"}}},
                   {"monst181", {{0, "too few strings"}}}});
         readCreatures(game, {row("Goat", 12), row("Mole", 12)});
         QCOMPARE(EditorData::creatures,
-                 (Names{{0, "Goat"}, {1, "Ram"}, {151, "Imp"}, {180, "New"}, {181, ""}}));
+                 (Names{{0, "Goat"}, {1, "Ram"}, {151, u8"\u20AC"}, {180, "New"}, {181, ""}}));
         QCOMPARE(EditorData::nCreatures, 155U);
     }
 
@@ -171,9 +171,9 @@ private slots:
     {
         const GameFolder game;
         // The piece behind the last line end is the second of the two at the end.
-        readArtifacts(game, lines({row("Title", 12), row("Name", 12), row("Cup", 12),
+        readArtifacts(game, lines({row("Title", 12), row("Name", 12), row("\x80", 12),
                                    row("Short", 11), "  ", row("Ring", 13), row("Last", 12)}));
-        QCOMPARE(EditorData::artifacts, (Names{{0, "Cup"}, {1, "Ring"}}));
+        QCOMPARE(EditorData::artifacts, (Names{{0, u8"\u20AC"}, {1, "Ring"}}));
         QCOMPARE(EditorData::nArtifacts, 147U);
     }
 
@@ -246,42 +246,42 @@ private slots:
     void heroesAreReadAndOverridden()
     {
         const GameFolder game;
-        useTable({{"hero1", {{6, "Una"}}},
+        useTable({{"hero1", {{6, "\x80"}}},
                   {"hero200", {{5, "five"}, {6, "Wim"}, {7, "seven"}}},
                   {"hero", {{6, "no number"}}},
                   {"hero65536", {{6, "too far"}}},
                   {"heroes2", {{6, "another kind"}}}});
         game.provide({{"HOTRAITS.TXT",
-                       "Title\r\nHead\r\nOrla\tx\ty\r\n\r\nBeto\r\n\tnameless\r\nDoro\r\nLast"}});
+                       "Title\r\nHead\r\nOrla\tx\ty\r\n\r\nBeto\r\n\tnameless\r\n\x80\r\nLast"}});
         EditorData::initHeroes(game_files::codec());
         QCOMPARE(EditorData::heroes,
-                 (Names{{0, "Orla"}, {1, "Una"}, {2, ""}, {3, "Doro"}, {200, "Wim"}}));
+                 (Names{{0, "Orla"}, {1, u8"\u20AC"}, {2, ""}, {3, u8"\u20AC"}, {200, "Wim"}}));
     }
 
     void secondarySkillsAreReadAndOverridden()
     {
         const GameFolder game;
         useTable({{"secskill0", {{1, "Sailing"}}},
-                  {"secskill28", {{0, "zero"}, {1, "Weaving"}, {2, "two"}}},
+                  {"secskill28", {{0, "zero"}, {1, "\x80"}, {2, "two"}}},
                   {"secskill", {{1, "no number"}}},
                   {"secskill65536", {{1, "too far"}}}});
-        game.provide({{"SSTRAITS.txt", "Title\r\nHead\r\nRiding\ta\r\n\t \t\r\nBaking\r\n"}});
+        game.provide({{"SSTRAITS.txt", "Title\r\nHead\r\nRiding\ta\r\n\t \t\r\n\x80\r\n"}});
         EditorData::readSkills(game_files::codec());
         QCOMPARE(EditorData::secondarySkills,
-                 (Names{{0, "Sailing"}, {1, "Baking"}, {28, "Weaving"}}));
+                 (Names{{0, "Sailing"}, {1, u8"\u20AC"}, {28, u8"\u20AC"}}));
     }
 
     void spellsSkipHeadingsAndBlankLines()
     {
         const GameFolder game;
         useTable({{"spell0", {{0, "no such kind"}, {1, "no such kind"}}}});
-        game.provide({{"SPTRAITS.txt", lines({"h", "h", "h", "h", "Sun\tx", "Rain", "", " \t",
+        game.provide({{"SPTRAITS.txt", lines({"h", "h", "h", "h", "Sun\tx", "\x80", "", " \t",
                                               "Combat Spells\tmore", "Bolt", "combat spells",
                                               " Combat Spells", "Combat Spells"}) +
                                            "last"}});
         EditorData::readSpells(game_files::codec());
         QCOMPARE(EditorData::spells, (Names{{0, "Sun"},
-                                            {1, "Rain"},
+                                            {1, u8"\u20AC"},
                                             {2, "Bolt"},
                                             {3, "combat spells"},
                                             {4, " Combat Spells"}}));
@@ -303,11 +303,11 @@ private slots:
     void resourcesAreSevenWholeLines()
     {
         const GameFolder game;
-        game.provide({{"RESTYPES.txt", "Clay\tx\r\n\r\nTin\r\n\t\r\nOak\r\nFlax\r\nIce\r\n"
+        game.provide({{"RESTYPES.txt", "Clay\tx\r\n\r\n\x80\r\n\t\r\nOak\r\nFlax\r\nIce\r\n"
                                        "Ash\r\nPearl\r\nToo many\r\n"}});
         EditorData::initResourceInfo(game_files::codec());
         QCOMPARE(EditorData::resources, (Names{{0, "Clay\tx"},
-                                               {1, "Tin"},
+                                               {1, u8"\u20AC"},
                                                {2, "Oak"},
                                                {3, "Flax"},
                                                {4, "Ice"},
