@@ -34,7 +34,7 @@ bool isPicture32(const QByteArray &record)
 bool isPalettePicture(const QByteArray &record)
 {
     const qint64 pixels = qint64(numberAt(record, 4)) * numberAt(record, 8);
-    return pixels > 0 && record.size() == 12 + pixels + 3 * 256;
+    return pixels > 0 && record.size() == 12 + pixels + 768;
 }
 
 QSize sizeOf(const QByteArray &record)

@@ -17,7 +17,7 @@ QByteArray ByteCursor::raw(qint64 size)
         m_ok = false;
         return {};
     }
-    const QByteArray bytes = m_bytes.mid(int(m_position), int(size));
+    QByteArray bytes = m_bytes.mid(int(m_position), int(size));
     m_position += size;
     return bytes;
 }
@@ -165,7 +165,7 @@ void readStartOptions(ByteCursor &cursor, ScenarioRecord &scenario)
         }
     } else if (scenario.optionType == 2 || scenario.optionType == 3) {
         scenario.offers = cursor.u8();
-        cursor.raw(scenario.offers * scenario.optionType);
+        cursor.raw(qint64(scenario.offers) * scenario.optionType);
     } else if (scenario.optionType != 0) {
         cursor.fail();
     }

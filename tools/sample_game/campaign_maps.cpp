@@ -21,8 +21,8 @@ enum class Depth
 
 struct MapPlace
 {
-    int number;
     const char *name;
+    int number;
     art::Theme theme;
     Kind kind;
     int regions;
@@ -31,13 +31,13 @@ struct MapPlace
 };
 
 constexpr MapPlace kMaps[] = {
-    {15, "The Wells of Quesh", art::Theme::Desert, Kind::Computed, 7, 1501, Depth::Bits24},
-    {kDefaultMap, "The River Realm", art::Theme::Highlands, Kind::Computed, 10, 2401,
+    {"The Wells of Quesh", 15, art::Theme::Desert, Kind::Computed, 7, 1501, Depth::Bits24},
+    {"The River Realm", kDefaultMap, art::Theme::Highlands, Kind::Computed, 10, 2401,
      Depth::Bits24},
-    {kReadyMadeMap, "The Salt Isles", art::Theme::Isles, Kind::ReadyMade, 5, 301, Depth::Bits24},
-    {8, "The Winter Marches", art::Theme::Frost, Kind::ReadyMade, 4, 801, Depth::Bits24},
-    {27, "The Ember Coast", art::Theme::Ember, Kind::Computed, 6, 2701, Depth::Bits32},
-    {31, "The Uncharted Fen", art::Theme::Marsh, Kind::GameOnly, 0, 3101, Depth::Bits24},
+    {"The Salt Isles", kReadyMadeMap, art::Theme::Isles, Kind::ReadyMade, 5, 301, Depth::Bits24},
+    {"The Winter Marches", 8, art::Theme::Frost, Kind::ReadyMade, 4, 801, Depth::Bits24},
+    {"The Ember Coast", 27, art::Theme::Ember, Kind::Computed, 6, 2701, Depth::Bits32},
+    {"The Uncharted Fen", 31, art::Theme::Marsh, Kind::GameOnly, 0, 3101, Depth::Bits24},
 };
 
 QString mapPrefix(const MapPlace &place)

@@ -2,17 +2,15 @@
 // Exit status: 0 made, 1 wrong usage, 2 a file can't be written.
 #include "tools/sample_game/game_folder.h"
 
-#include <QGuiApplication>
+#include <QCoreApplication>
 
 #include <cstdio>
 
 int main(int argc, char **argv)
 {
-    // Pictures are painted in memory; no display is asked for.
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
-    const QStringList arguments = QGuiApplication::arguments();
+    // Shapes are painted in memory and no letters, so no display and no fonts are needed.
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() != 2 || arguments.at(1).startsWith(QLatin1Char('-'))) {
         std::fputs("usage: make_sample_game DIR\n", stderr);
         return 1;
