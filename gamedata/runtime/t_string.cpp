@@ -50,6 +50,7 @@ void TString::SetLength(int n)
 {
     if (n < 0 || n == INT_MAX)
         n = 0;
+    TArray<char>::SetLength(n); // on its own first: 0 forgets all characters
     TArray<char>::SetLength(n + 1);
     length = data ? n : 0;
     if (data)

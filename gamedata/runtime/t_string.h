@@ -15,7 +15,8 @@ public:
     TString &operator=(TString &&other) noexcept = default;
     ~TString() = default;
 
-    // Keeps the first n characters; new ones are zero.
+    // Keeps the first n characters. New ones are zero, or what stood there before the string was
+    // cut inside its block; after a length of 0 they are zero.
     void SetLength(int n);
 
     // The string's own buffer, valid until it changes. Never null.

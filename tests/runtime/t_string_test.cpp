@@ -11,6 +11,8 @@ private slots:
     void keepsAZeroBehindItsCharacters();
     void isNeverWithoutABuffer();
     void cutsAndGrows();
+    void growsByWhatItsBlockHeld();
+    void lengthOfZeroForgetsTheCharacters();
     void holdsZeros();
     void copiesKeepTheZeroBehindThem_data();
     void copiesKeepTheZeroBehindThem();
@@ -61,6 +63,23 @@ void TStringTest::cutsAndGrows()
     QCOMPARE(text.length, 0);
     text.SetLength(70);
     QCOMPARE(text.data[70], '\0');
+}
+
+void TStringTest::growsByWhatItsBlockHeld()
+{
+    TString text("abcdef");
+    text.SetLength(3);
+    QCOMPARE(text.c_str(), "abc");
+    text.SetLength(6);
+    QCOMPARE(QByteArray(text.data, 7), QByteArray("abc\0ef\0", 7));
+}
+
+void TStringTest::lengthOfZeroForgetsTheCharacters()
+{
+    TString text("abcdef");
+    text.SetLength(0);
+    text.SetLength(6);
+    QCOMPARE(QByteArray(text.data, 7), QByteArray(7, '\0'));
 }
 
 void TStringTest::holdsZeros()
