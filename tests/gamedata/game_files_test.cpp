@@ -57,13 +57,7 @@ void GameFilesTest::endsWithoutTheTableFile()
     if (folder)
         QVERIFY(QDir(m_dir->path()).mkdir(QStringLiteral("ravn.dat")));
     const ReportRecorder recorder;
-    int code = 0;
-    try {
-        loadRavnDat(nullptr);
-    } catch (const ProcessEnd &end) {
-        code = end.code;
-    }
-    QCOMPARE(code, 1);
+    QCOMPARE(exitCodeOf([] { loadRavnDat(nullptr); }), 1);
     QCOMPARE(recorder.errors.size(), 1);
     QCOMPARE(recorder.errors[0].title, QStringLiteral("Error"));
     QCOMPARE(recorder.errors[0].text,

@@ -443,13 +443,7 @@ void IniFileTest::loadEndsWithoutTheFile()
     if (folder)
         QVERIFY(QDir(m_dir->path()).mkdir(QStringLiteral("Ravn_settings.ini")));
     const ReportRecorder recorder;
-    int code = 0;
-    try {
-        loadRavnIni();
-    } catch (const ProcessEnd &end) {
-        code = end.code;
-    }
-    QCOMPARE(code, 1);
+    QCOMPARE(exitCodeOf([] { loadRavnIni(); }), 1);
     QCOMPARE(recorder.errors.size(), 1);
     QCOMPARE(recorder.errors[0].title, QStringLiteral("Error"));
     QCOMPARE(recorder.errors[0].text,

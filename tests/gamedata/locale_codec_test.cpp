@@ -40,7 +40,7 @@ void LocaleCodecTest::namedCodecIsSet()
 void LocaleCodecTest::codecThatCannotNameFilesIsRefused_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("unknown") << "Klingon-8";
+    QTest::newRow("unknown") << "Moonrunes-8";
     QTest::newRow("two bytes a letter") << "UTF-16LE";
     QTest::newRow("other letters") << "IBM037";
     QTest::newRow("no ASCII name") << QStringLiteral("\u041f");

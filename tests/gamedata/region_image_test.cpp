@@ -48,11 +48,7 @@ End endOf(const std::function<void()> &work)
     const LogRecorder log;
     const ReportRecorder recorder;
     End end;
-    try {
-        work();
-    } catch (const ProcessEnd &leave) {
-        end.code = leave.code;
-    }
+    end.code = exitCodeOf(work);
     end.log = LogRecorder::lines();
     end.messages = recorder.errors.size();
     return end;

@@ -66,13 +66,7 @@ void ReportTest::showsErrorsThroughTheReporter()
 void ReportTest::endsWithAMessageAndCodeOne()
 {
     const ReportRecorder recorder;
-    int code = 0;
-    try {
-        endWithMessage(QStringLiteral("Gone"));
-    } catch (const ProcessEnd &end) {
-        code = end.code;
-    }
-    QCOMPARE(code, 1);
+    QCOMPARE(exitCodeOf([] { endWithMessage(QStringLiteral("Gone")); }), 1);
     QCOMPARE(recorder.errors.size(), 1);
     QCOMPARE(recorder.errors[0].title, QStringLiteral("Error"));
     QCOMPARE(recorder.errors[0].text, QStringLiteral("Gone"));
@@ -81,13 +75,7 @@ void ReportTest::endsWithAMessageAndCodeOne()
 void ReportTest::endsSilently()
 {
     const ReportRecorder recorder;
-    int code = 0;
-    try {
-        endSilently(3);
-    } catch (const ProcessEnd &end) {
-        code = end.code;
-    }
-    QCOMPARE(code, 3);
+    QCOMPARE(exitCodeOf([] { endSilently(3); }), 3);
     QVERIFY(recorder.errors.isEmpty());
 }
 

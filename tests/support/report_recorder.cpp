@@ -1,22 +1,26 @@
 #include "tests/support/report_recorder.h"
 
-#include "gamedata/report.h"
-
-struct ReportRecorder::Private
-{
-    Reporter before;
-};
+#include <utility>
 
 ReportRecorder::ReportRecorder()
-    : d(new Private)
+    : m_before(setReporter({[this](const QString &title, const QString &text) {
+                                errors.append({title, text});
+                            },
+                            [](int code) { throw ProcessEnd{code}; }}))
 {
-    d->before = setReporter(
-        {[this](const QString &title, const QString &text) { errors.append({title, text}); },
-         [](int code) { throw ProcessEnd{code}; }});
 }
 
 ReportRecorder::~ReportRecorder()
 {
-    setReporter(std::move(d->before));
-    delete d;
+    setReporter(std::move(m_before));
+}
+
+int exitCodeOf(const std::function<void()> &work)
+{
+    try {
+        work();
+    } catch (const ProcessEnd &end) {
+        return end.code;
+    }
+    return -1;
 }

@@ -1,8 +1,12 @@
 // Takes the place of message boxes and of the process's end while a test runs.
 #pragma once
 
+#include "gamedata/report.h"
+
 #include <QString>
 #include <QVector>
+
+#include <functional>
 
 // What takes the place of the end of the process: thrown out of the code under test.
 struct ProcessEnd
@@ -17,7 +21,7 @@ struct RecordedError
 };
 
 // Installs itself as the reporter for its lifetime. An end of the process becomes a ProcessEnd
-// exception, so `QVERIFY_EXCEPTION_THROWN(..., ProcessEnd)` or a try block sees it.
+// exception, which exitCodeOf or QVERIFY_EXCEPTION_THROWN(..., ProcessEnd) sees.
 class ReportRecorder
 {
 public:
@@ -29,6 +33,9 @@ public:
     QVector<RecordedError> errors;
 
 private:
-    struct Private;
-    Private *d; // owned
+    Reporter m_before;
 };
+
+// The exit code with which the work ended the process, -1 if it came back. Wants a ReportRecorder
+// to be there.
+int exitCodeOf(const std::function<void()> &work);
