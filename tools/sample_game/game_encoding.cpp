@@ -8,7 +8,7 @@ QByteArray gameEncoded(const QString &text)
 {
     static const QTextCodec *codec = QTextCodec::codecForName("Windows-1252");
     QTextCodec::ConverterState state;
-    const QByteArray bytes = codec->fromUnicode(text.constData(), text.size(), &state);
+    QByteArray bytes = codec->fromUnicode(text.constData(), text.size(), &state);
     if (state.invalidChars > 0)
         qFatal("\"%s\" can't be written in Windows-1252", qUtf8Printable(text));
     return bytes;

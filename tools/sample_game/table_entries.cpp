@@ -74,6 +74,7 @@ std::vector<TableEntry> mediaEntries(const QStringList &moviePictures,
 {
     std::vector<TableEntry> entries;
     const QStringList movies = addedMovieNames();
+    entries.reserve(size_t(movies.size()) + 5); // and a list of each other kind
     for (int i = 0; i < movies.size(); ++i)
         entries.push_back({numbered("video", i), stringsWith(kMoviePlace, movies.at(i))});
     QString tracks = QStringLiteral("# tracks of the add-on\r\n");
