@@ -65,6 +65,21 @@ QJsonObject withoutVersion(QJsonObject dumped)
     return dumped;
 }
 
+// Without a map the writer chains the scenarios, whatever the file said.
+QJsonObject withoutPrerequisites(QJsonObject dumped)
+{
+    QJsonObject campaign = dumped["campaign"].toObject();
+    QJsonArray scenarios;
+    for (const QJsonValue &entry : campaign["scenarios"].toArray()) {
+        QJsonObject scenario = entry.toObject();
+        scenario.remove(QStringLiteral("prerequisites"));
+        scenarios.append(scenario);
+    }
+    campaign["scenarios"] = scenarios;
+    dumped["campaign"] = campaign;
+    return dumped;
+}
+
 QByteArray campaignNamed(const QByteArray &name)
 {
     return corpus::gzip(ByteWriter()
@@ -379,14 +394,12 @@ void CliCampaignTest::sampleCampaignsSurviveResaving()
     };
     QCOMPARE(runChild(program, game + QStringList{resave, file, out}).exitCode, 0);
     QVERIFY(!dumped(file).isEmpty());
-    QJsonObject before = withoutVersion(dumped(file));
-    QJsonObject after = withoutVersion(dumped(out));
-    // Without a map the writer chains the scenarios, whatever the file said.
-    if (!before["campaign"].toObject()["hasMap"].toBool()) {
-        before.remove(QStringLiteral("campaign"));
-        after.remove(QStringLiteral("campaign"));
-    }
-    QCOMPARE(after, before);
+    const QJsonObject before = dumped(file);
+    const bool hasMap = before["campaign"].toObject()["hasMap"].toBool();
+    const auto kept = [hasMap](const QJsonObject &part) {
+        return hasMap ? withoutVersion(part) : withoutPrerequisites(withoutVersion(part));
+    };
+    QCOMPARE(kept(dumped(out)), kept(before));
     QCOMPARE(runChild(program, game + QStringList{resave, out, again}).exitCode, 0);
     QCOMPARE(m_game.read(QStringLiteral("again.e3c")), m_game.read(QStringLiteral("sample.e3c")));
 }

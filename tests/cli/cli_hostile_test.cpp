@@ -32,9 +32,11 @@ constexpr qint64 kilobytesForTheLargest = 204800;
 
 #if defined(__SANITIZE_ADDRESS__)
 constexpr bool figuresCount = false;
+constexpr quint32 manyScenarios = 3000;
 constexpr qint64 millisecondsAllowed = 30000;
 #else
 constexpr bool figuresCount = true;
+constexpr quint32 manyScenarios = 30000;
 constexpr qint64 millisecondsAllowed = 1000;
 #endif
 
@@ -140,8 +142,8 @@ void CliHostileTest::archiveIsReadSoonAndInLittleMemory()
 
 void CliHostileTest::largestCampaignIsDumpedWithoutASecondCopy()
 {
-    // 30,000 scenarios with 30,000 prerequisites each: 113 MB of records, 900 MB of JSON.
-    const QString file = m_game.write(QStringLiteral("largest.e3c"), scenarioBombs(30000));
+    // 30,000 scenarios with as many prerequisites each: 113 MB of records, 900 MB of JSON.
+    const QString file = m_game.write(QStringLiteral("largest.e3c"), scenarioBombs(manyScenarios));
     const ChildResult result = runChild(
         QStringLiteral("/bin/sh"),
         {QStringLiteral("-c"), QStringLiteral("exec \"$0\" --game \"$1\" dump \"$2\" >/dev/null"),
