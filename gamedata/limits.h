@@ -39,8 +39,8 @@ constexpr qint64 mapHeaderRatio = 8;
 // One unpacked entry of an archive. The largest pictures are a few megabytes.
 constexpr qint64 archiveEntryBytes = qint64(64) * 1024 * 1024;
 
-// What is read of a text table of the archives. Split into its lines a text takes many times its
-// own size, and the game's largest table has some hundred kilobytes.
+// What is read of a text table of the archives: split into its lines, a text takes many times its
+// own size in memory.
 constexpr qint64 textTableBytes = qint64(4) * 1024 * 1024;
 
 // The settings file and the table file.
