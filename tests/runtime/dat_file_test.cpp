@@ -42,10 +42,16 @@ ByteWriter &operator<<(ByteWriter &out, const Entry &entry)
 
 using Table = std::unique_ptr<TDatFile>;
 
+TStreamPtr<TMemoryStream> streamOf(const QByteArray &bytes)
+{
+    TStreamPtr<TMemoryStream> stream(TMemoryStream::Create(unsigned(bytes.size())));
+    std::copy(bytes.begin(), bytes.end(), stream->data);
+    return stream;
+}
+
 Table load(const QByteArray &bytes)
 {
-    const TStreamPtr<TMemoryStream> stream(TMemoryStream::Create(unsigned(bytes.size())));
-    std::copy(bytes.begin(), bytes.end(), stream->data);
+    const TStreamPtr<TMemoryStream> stream = streamOf(bytes);
     Table table(TDatFile::Create());
     table->Load(stream.get());
     return table;
@@ -131,8 +137,7 @@ void DatFileTest::readsEveryField()
 void DatFileTest::readsFromAnyPosition()
 {
     const QByteArray bytes = sampleBytes();
-    const TStreamPtr<TMemoryStream> stream(TMemoryStream::Create(unsigned(bytes.size())));
-    std::copy(bytes.begin(), bytes.end(), stream->data);
+    const TStreamPtr<TMemoryStream> stream = streamOf(bytes);
     QVERIFY(stream->Seek(5, 0) == 5);
     const Table table(TDatFile::Create());
     table->Load(stream.get());
@@ -376,8 +381,7 @@ void DatFileTest::absurdCountsTakeNoMemory()
 void DatFileTest::looksAtNoMoreThanTheLimit()
 {
     const QByteArray bytes = sampleBytes();
-    const TStreamPtr<TMemoryStream> stream(TMemoryStream::Create(unsigned(bytes.size())));
-    std::copy(bytes.begin(), bytes.end(), stream->data);
+    const TStreamPtr<TMemoryStream> stream = streamOf(bytes);
     const Table table(TDatFile::Create());
     table->Load(stream.get(), bytes.size());
     QCOMPARE(table->GetIntVal(2, 0, 0), 5);
@@ -414,8 +418,7 @@ void DatFileTest::readsLargeTablesAtOnce()
 void DatFileTest::readsCountedStrings()
 {
     const QByteArray bytes = ByteWriter().text("abc").i32(0).i32(-4).i32(9).raw("cut").bytes();
-    const TStreamPtr<TMemoryStream> stream(TMemoryStream::Create(unsigned(bytes.size())));
-    std::copy(bytes.begin(), bytes.end(), stream->data);
+    const TStreamPtr<TMemoryStream> stream = streamOf(bytes);
     TString text("before");
     ReadLS(stream.get(), text);
     QCOMPARE(text.c_str(), "abc");

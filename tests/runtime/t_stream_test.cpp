@@ -4,6 +4,7 @@
 #include <QtTest>
 
 #include <climits>
+#include <malloc.h>
 
 #include <sys/stat.h>
 
@@ -109,10 +110,11 @@ void TStreamTest::memoryGrowsByWriting()
 
 void TStreamTest::memoryGrowsInBlocksOf64()
 {
-    // Inside a block of 64 bytes the data stays where it is.
     const TStreamPtr<TMemoryStream> stream(TMemoryStream::Create());
     char byte = 'x';
     QVERIFY(stream->Write(&byte, 1) != 0);
+    QVERIFY(malloc_usable_size(stream->data) >= 64);
+    // Inside the block the data stays where it is.
     const char *block = stream->data;
     for (int i = 1; i < 64; ++i) {
         QVERIFY(stream->Write(&byte, 1) != 0);
@@ -120,6 +122,7 @@ void TStreamTest::memoryGrowsInBlocksOf64()
         QCOMPARE(stream->Size(), i + 1);
     }
     QVERIFY(stream->Write(&byte, 1) != 0);
+    QVERIFY(malloc_usable_size(stream->data) >= 128);
     QCOMPARE(QByteArray(stream->data, stream->Size()), QByteArray(65, 'x'));
 }
 
