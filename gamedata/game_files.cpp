@@ -5,8 +5,6 @@
 #include "gamedata/report.h"
 #include "gamedata/runtime/dat_file.h"
 
-#include <QCoreApplication>
-
 void loadRavnDat(_Ini_ *)
 {
     const std::wstring path = (gameRoot() + QLatin1String("/ravn.dat")).toStdWString();

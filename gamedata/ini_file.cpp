@@ -6,7 +6,6 @@
 #include "gamedata/runtime/text_tools.h"
 #include "gamedata/safe_save.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <string_view>
