@@ -3,6 +3,7 @@
 #include "document/campaign_data.h"
 #include "gamedata/campaign_picture.h"
 #include "gamedata/editor_data.h"
+#include "gamedata/region_image.h"
 #include "gamedata/report.h"
 #include "shell/campaign_map_view.h"
 #include "shell/main_window.h"
@@ -11,14 +12,6 @@
 #include <QGraphicsScene>
 #include <QGraphicsSceneMouseEvent>
 #include <QStyleOptionGraphicsItem>
-
-namespace {
-
-constexpr unsigned unselectedState = 0;
-constexpr unsigned selectedState = 1;
-constexpr unsigned unusedState = 2;
-
-} // namespace
 
 CampaignRegionItem::CampaignRegionItem() = default;
 
@@ -75,8 +68,8 @@ void CampaignRegionItem::mousePressEvent(QGraphicsSceneMouseEvent *event)
 unsigned CampaignRegionItem::imageState() const
 {
     if (isSelected)
-        return selectedState;
-    return hasScenario ? unselectedState : unusedState;
+        return regionSelected;
+    return hasScenario ? regionUnselected : regionUnused;
 }
 
 void CampaignRegionItem::deselectOthers()
