@@ -101,14 +101,19 @@ public:
         return {};
     }
 
-    // Where in the file the maps begin. Call it once, after read().
-    qint64 endInFile()
+    // Where in the file the maps begin; nothing if member 1 goes on for longer than can be
+    // believed. Call it once, after read().
+    std::optional<qint64> endInFile()
     {
         const qint64 length = m_device.delivered();
         if (m_device.isPlain())
             return length;
         const qint64 end = m_device.skipToMemberEnd(limits::campaignHeaderBytes);
-        return end >= 0 ? end : packedAgain(length) + frameDifference;
+        if (end >= 0)
+            return end;
+        if (m_device.isInMember())
+            return {};
+        return packedAgain(length) + frameDifference;
     }
 
 private:
@@ -213,8 +218,14 @@ std::optional<QString> readAll(QFile &file, CampaignData &campaign)
     HeaderReader header(file, campaign);
     if (auto failure = header.read())
         return failure;
-    const bool read = readEmbeddedMaps(file, header.endInFile(), campaign.scenarios);
-    return read ? std::nullopt : std::optional<QString>(damaged());
+    const bool anyMaps = std::any_of(campaign.scenarios.begin(), campaign.scenarios.end(),
+                                     [](const ScenarioData &s) { return s.mapSize != 0; });
+    if (!anyMaps)
+        return {};
+    const std::optional<qint64> mapsBegin = header.endInFile();
+    if (!mapsBegin || !readEmbeddedMaps(file, *mapsBegin, campaign.scenarios))
+        return damaged();
+    return {};
 }
 
 } // namespace

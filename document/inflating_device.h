@@ -19,8 +19,8 @@ public:
         // of 16 KB in which the stream turns out corrupt nothing is delivered.
         GzipMember,  // ends with the first member
         GzipMembers, // goes on into the members behind it
-        // One gzip member or zlib stream and nothing else, in smaller steps; what was unpacked
-        // before a corrupt place is delivered.
+                     // One gzip member or zlib stream and nothing else, in smaller steps; what was
+                     // unpacked before a corrupt place is delivered.
         Embedded,
     };
 
@@ -45,6 +45,8 @@ public:
     // all. Answers where in the source the member ended, counted from where the source stood, or
     // -1 if it didn't end well.
     qint64 skipToMemberEnd(qint64 limit);
+    // It goes on beyond that limit, as far as anybody knows.
+    bool isInMember() const { return m_state == State::Inflating; }
 
 protected:
     qint64 readData(char *data, qint64 maxSize) override;

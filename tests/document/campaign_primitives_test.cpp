@@ -62,10 +62,10 @@ void CampaignPrimitivesTest::textsAreALengthAndBytes_data()
     QTest::newRow("two bytes a letter")
         << QString::fromUtf8("\xD0\x9B") << QByteArray("\2\0\0\0\xD0\x9B", 6);
     QTest::newRow("zero inside") << QString(QChar(0)) + "a" << QByteArray("\2\0\0\0\0a", 6);
-    QTest::newRow("mark in front")
-        << QString(QChar(0xfeff)) + "a" << QByteArray("\4\0\0\0\xEF\xBB\xBF"
-                                                      "a",
-                                                      8);
+    QTest::newRow("mark in front") << QString(QChar(0xfeff)) + "a"
+                                   << QByteArray("\4\0\0\0\xEF\xBB\xBF"
+                                                 "a",
+                                                 8);
 }
 
 void CampaignPrimitivesTest::textsAreALengthAndBytes()

@@ -160,8 +160,8 @@ void CampaignReaderTest::readsACampaignWithoutAMap()
     head.customValue = -6;
     head.scenarioCount = 2;
     head.mapIdByte = 25;
-    const QByteArray bytes = samples::head(head) + samples::record(10, {"a.e3m"})
-                             + samples::record(10, {"b.e3m", 0, "\1"});
+    const QByteArray bytes = samples::head(head) + samples::record(10, {"a.e3m"}) +
+                             samples::record(10, {"b.e3m", 0, "\1"});
     CampaignData c;
     QVERIFY(!read(c, samples::pack(bytes)));
     QVERIFY(!c.hasMap);
@@ -175,7 +175,7 @@ void CampaignReaderTest::readsACampaignWithoutAMap()
 void CampaignReaderTest::aCampaignWithoutAMapIsACampaignOnTheTable()
 {
     samples::Head head;
-    head.hasMap = 7; // any byte but 0
+    head.hasMap = 7;                  // any byte but 0
     head.scenarioCount = 4000000000u; // of no meaning with a map, but kept
     CampaignData c;
     QVERIFY(!read(c, samples::pack(samples::head(head))));
@@ -223,8 +223,8 @@ void CampaignReaderTest::prerequisitesFitTheCountOfScenarios()
     head.scenarioCount = 20; // two are there
     const QByteArray all("\xFF\xFF\xFF");
     CampaignData c;
-    QVERIFY(!read(c, samples::pack(samples::head(head) + samples::record(10, {"a", 0, all})
-                                   + samples::record(10, {"b", 0, all}))));
+    QVERIFY(!read(c, samples::pack(samples::head(head) + samples::record(10, {"a", 0, all}) +
+                                   samples::record(10, {"b", 0, all}))));
     QCOMPARE(c.scenarios.size(), size_t(2));
     QCOMPARE(c.scenarioCount, 2u);
     QCOMPARE(c.scenarios[0].prerequisites, bits(2, {0, 1}));

@@ -161,8 +161,7 @@ void CampaignWriterTest::theMemberIsThatOfTheGzFunctionsAndItsEndFollowsTheRule(
 
 void CampaignWriterTest::readingAndWritingGivesTheSameBytes()
 {
-    const QByteArray file
-        = samples::campaign(10, samples::mapFile(32, 7), samples::mapFile(21));
+    const QByteArray file = samples::campaign(10, samples::mapFile(32, 7), samples::mapFile(21));
     CampaignData c = readBack({file});
     QCOMPARE(joined(c.toPieces()), file);
     QCOMPARE(joined(readBack(c.toPieces()).toPieces()), file);

@@ -56,7 +56,8 @@ void InflatingDeviceTest::aSmallReadTouchesOnlyTheBeginning()
 
 void InflatingDeviceTest::plainBytesPassExceptAsAnEmbeddedMap()
 {
-    for (const QByteArray &bytes : {QByteArray("plain bytes"), QByteArray("\x1f"), QByteArray("")}) {
+    for (const QByteArray &bytes :
+         {QByteArray("plain bytes"), QByteArray("\x1f"), QByteArray("")}) {
         QBuffer source;
         source.setData(bytes);
         source.open(QIODevice::ReadOnly);

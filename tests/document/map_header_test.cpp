@@ -162,16 +162,15 @@ void MapHeaderTest::aCheckStopsAtAnyPlayers()
     QFETCH(quint32, subVersion);
     int front = 4;
     if (version >= 32)
-        front += 4 + (subVersion >= 1 ? 2 : 0) + (subVersion >= 2 ? 4 : 0)
-                 + (subVersion >= 4 ? 5 : 0) + (subVersion >= 7 ? 1 : 0);
+        front += 4 + (subVersion >= 1 ? 2 : 0) + (subVersion >= 2 ? 4 : 0) +
+                 (subVersion >= 4 ? 5 : 0) + (subVersion >= 7 ? 1 : 0);
     ScenarioData scenario;
     const auto before = std::make_shared<MapHeader>();
     scenario.mapHeader = before;
     qint64 pos = 0;
     QCOMPARE(read(scenario, samples::mapHeader(version, subVersion, 200), true, &pos), 1u);
     QCOMPARE(pos, qint64(front + 1));
-    QCOMPARE(read(scenario, samples::mapHeader(version, subVersion, 0), true, &pos),
-             unsigned(-1));
+    QCOMPARE(read(scenario, samples::mapHeader(version, subVersion, 0), true, &pos), unsigned(-1));
     QCOMPARE(pos, qint64(front + 1));
     QCOMPARE(scenario.mapHeader, before);
 }
@@ -200,8 +199,9 @@ void MapHeaderTest::theVersionsFieldIsNeverRefused()
     QCOMPARE(scenario.mapHeader->headerHeroes.available.size(), version < 32 ? 160 : 0);
     // In front of the players: dimension to difficulty is 14 bytes, and a level limit if new.
     // A player is 7 bytes and a portrait and an empty name if old, 7 more with lists if new.
-    const qint64 expected = version < 32 ? 5 + 14 + 8 * (8 + 5) + 5 + 4 + 1 + 20 + 31
-                                         : 9 + 15 + 8 * (8 + 5 + 2 + 5) + 5 + 4 + 1 + 4 + 4 + 1 + 31;
+    const qint64 expected = version < 32
+                                ? 5 + 14 + 8 * (8 + 5) + 5 + 4 + 1 + 20 + 31
+                                : 9 + 15 + 8 * (8 + 5 + 2 + 5) + 5 + 4 + 1 + 4 + 4 + 1 + 31;
     QCOMPARE(pos, expected);
 }
 
@@ -261,8 +261,8 @@ void MapHeaderTest::victoryHasThePayloadOfItsType()
     QFETCH(QByteArray, payload);
     QFETCH(QVector<int>, fields);
     const bool flags = type != 255;
-    const QByteArray bytes = upToVictory(version) + char(type) + QByteArray(flags ? "\1\2" : "")
-                             + payload + '\xFF' + behindLoss(version);
+    const QByteArray bytes = upToVictory(version) + char(type) + QByteArray(flags ? "\1\2" : "") +
+                             payload + '\xFF' + behindLoss(version);
     ScenarioData scenario;
     qint64 pos = 0;
     read(scenario, bytes + QByteArray(50, '\x66'), false, &pos);
@@ -271,8 +271,8 @@ void MapHeaderTest::victoryHasThePayloadOfItsType()
     QCOMPARE(int(victory.type), type);
     QCOMPARE(int(victory.flags[0]), flags ? 1 : 0);
     QCOMPARE(int(victory.flags[1]), flags ? 2 : 0);
-    const QVector<int> found{victory.object,      victory.kind,        victory.extra,
-                             victory.amount,      victory.position[0], victory.position[1],
+    const QVector<int> found{victory.object,     victory.kind,        victory.extra,
+                             victory.amount,     victory.position[0], victory.position[1],
                              victory.position[2]};
     QCOMPARE(found, fields);
     QCOMPARE(int(scenario.mapHeader->loss.type), 255);
@@ -313,14 +313,8 @@ void MapHeaderTest::teamsAreThereOnlyForACount()
     const auto without = headerOf(front + ByteWriter().u8(0).zeros(20).u32(1).u8(9).bytes());
     QCOMPARE(without->teams, (std::array<quint8, 8>{}));
     QCOMPARE(without->headerHeroes.placeholders, std::vector<quint8>{9});
-    const auto with = headerOf(front
-                               + ByteWriter()
-                                     .u8(200)
-                                     .raw("\1\2\3\4\5\6\7\x08")
-                                     .zeros(20)
-                                     .u32(1)
-                                     .u8(9)
-                                     .bytes());
+    const auto with = headerOf(
+        front + ByteWriter().u8(200).raw("\1\2\3\4\5\6\7\x08").zeros(20).u32(1).u8(9).bytes());
     QCOMPARE(with->teams, (std::array<quint8, 8>{1, 2, 3, 4, 5, 6, 7, 8}));
     QCOMPARE(with->headerHeroes.placeholders, std::vector<quint8>{9});
 }

@@ -81,8 +81,10 @@ inline QByteArray noise(int size, quint32 seed = 1)
     return bytes;
 }
 
+// A fresh file each time: some file systems wait for the disk when an old one is written over.
 inline QString writeFile(const QString &path, const QByteArray &bytes)
 {
+    QFile::remove(path);
     QFile file(path);
     file.open(QIODevice::WriteOnly);
     file.write(bytes);
@@ -132,9 +134,9 @@ inline QByteArray mapHeader(quint32 version, quint32 subVersion = 0, unsigned an
                 w.u8(41).text("Tamsin").u8(42).text("");
         }
     }
-    w.u8(12).u8(1).u8(0).i32(5000);    // victory by an amount
-    w.u8(2).u16(0x0305);               // loss by days
-    w.u8(2).raw("\1\2\1\2\1\2\1\2");   // teams
+    w.u8(12).u8(1).u8(0).i32(5000);  // victory by an amount
+    w.u8(2).u16(0x0305);             // loss by days
+    w.u8(2).raw("\1\2\1\2\1\2\1\2"); // teams
     const unsigned bits = version == 14 ? 128 : version >= 32 ? 163 : 160;
     if (version >= 32)
         w.u32(bits);
@@ -239,17 +241,18 @@ inline QByteArray campaignRecords(quint32 version, quint32 firstMap, quint32 las
 {
     Head fields;
     fields.version = version;
-    return head(fields)
-           + record(version, {"one.e3m", firstMap, QByteArray(1, '\0'), "Begin", bonusOfResources()})
-           + record(version, {"", 0, QByteArray(1, '\1'), ""})
-           + record(version, {"three.e3m", lastMap, QByteArray(1, '\3'), "End"});
+    return head(fields) +
+           record(version,
+                  {"one.e3m", firstMap, QByteArray(1, '\0'), "Begin", bonusOfResources()}) +
+           record(version, {"", 0, QByteArray(1, '\1'), ""}) +
+           record(version, {"three.e3m", lastMap, QByteArray(1, '\3'), "End"});
 }
 
 inline QByteArray campaign(quint32 version, const QByteArray &firstMap, const QByteArray &lastMap,
                            int level = Z_DEFAULT_COMPRESSION)
 {
-    const QByteArray records
-        = campaignRecords(version, quint32(firstMap.size()), quint32(lastMap.size()));
+    const QByteArray records =
+        campaignRecords(version, quint32(firstMap.size()), quint32(lastMap.size()));
     return pack(records, level) + firstMap + lastMap;
 }
 

@@ -47,10 +47,10 @@ void StartOptionsTest::init()
 void StartOptionsTest::everyClassIsAMetaType()
 {
     const CampaignData campaign; // registers them
-    for (const char *name : {"StartingBonusSet", "StartingHeroSet", "HeroCrossoverSet",
-                             "BonusCreature", "BonusSpell", "BonusBuilding", "BonusArtifact",
-                             "BonusScroll", "BonusPrimarySkill", "BonusSecondarySkill",
-                             "BonusResource", "CmpHeroCrossover", "StartingHero"})
+    for (const char *name :
+         {"StartingBonusSet", "StartingHeroSet", "HeroCrossoverSet", "BonusCreature", "BonusSpell",
+          "BonusBuilding", "BonusArtifact", "BonusScroll", "BonusPrimarySkill",
+          "BonusSecondarySkill", "BonusResource", "CmpHeroCrossover", "StartingHero"})
         QVERIFY2(QMetaType::type(name) >= QMetaType::User, name);
 }
 
@@ -172,10 +172,10 @@ void StartOptionsTest::aBonusHasTheBytesOfItsType_data()
     QTest::newRow("3 artifact") << bonus(3, BonusArtifact{0x1234, 0x5678})
                                 << QByteArray("\3\x34\x12\x78\x56");
     QTest::newRow("4 scroll") << bonus(4, BonusScroll{0x1234, 9}) << QByteArray("\4\x34\x12\x09");
-    QTest::newRow("5 primary skills") << bonus(5, BonusPrimarySkill{0x1234, {1, 2, 3, 4}})
-                                      << QByteArray("\5\x34\x12\1\2\3\4");
-    QTest::newRow("6 secondary skill") << bonus(6, BonusSecondarySkill{0x1234, 7, 2})
-                                       << QByteArray("\6\x34\x12\7\2");
+    QTest::newRow("5 primary skills")
+        << bonus(5, BonusPrimarySkill{0x1234, {1, 2, 3, 4}}) << QByteArray("\5\x34\x12\1\2\3\4");
+    QTest::newRow("6 secondary skill")
+        << bonus(6, BonusSecondarySkill{0x1234, 7, 2}) << QByteArray("\6\x34\x12\7\2");
     QTest::newRow("7 resource") << bonus(7, BonusResource{6, -2})
                                 << QByteArray("\7\6\xFE\xFF\xFF\xFF");
     QTest::newRow("8") << CmpStartingBonus{8, {}} << QByteArray("\x08");
