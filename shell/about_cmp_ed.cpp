@@ -4,6 +4,8 @@
 #include "shell/dialog_look.h"
 #include "ui_AboutCmpEd.h"
 
+#include <QIcon>
+
 namespace {
 
 // Rows of the game's editor texts.
@@ -11,12 +13,16 @@ constexpr int titleRow = 0;
 constexpr int authorsRow = 1;
 constexpr int detailsRow = 7;
 
+constexpr int iconSide = 64;
+
 } // namespace
 
 AboutCmpEd::AboutCmpEd(QWidget *parent) : QDialog(parent), ui(std::make_unique<Ui_AboutCmpEd>())
 {
     ui->setupUi(this);
     setModal(true);
+    // An image of its own would be the file's smallest picture, enlarged.
+    ui->icon->setPixmap(QIcon(QStringLiteral(":/icons/cmped.ico")).pixmap(iconSide, iconSide));
     const auto &texts = EditorData::editorText;
     ui->label->setText(QStringLiteral("%1\n%2\n\n%3\n\n%4")
                            .arg(textOf(texts, titleRow), tr("Version Ravn"),

@@ -7,6 +7,7 @@
 #include "shell/campaign_map_view.h"
 #include "shell/dialog_look.h"
 #include "shell/drag_and_drop_handler.h"
+#include "shell/status_label.h"
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
@@ -22,6 +23,10 @@ namespace {
 constexpr quint32 defaultCampaignMap = 24;
 constexpr int hintRow = 0;
 constexpr int recentFileRow = 9;
+
+// The room that the status bar's texts may ask for, in pixels; together less than the map's width.
+constexpr int hintWidth = 320;
+constexpr int regionWidth = 90;
 
 // Which row of the game's command texts explains which action.
 struct ToolTipRow
@@ -55,16 +60,6 @@ constexpr std::array<QAction * Ui_MainWindow::*, 7> unavailableActions{{
     &Ui_MainWindow::scenarioProperties,
     &Ui_MainWindow::actionConvertCmp,
 }};
-
-QLabel *newStatusLabel()
-{
-    auto *label = new QLabel;
-    label->setFont(editorFont());
-    label->setTextFormat(Qt::PlainText);
-    // A long text must not widen the window.
-    label->setMinimumWidth(1);
-    return label;
-}
 
 // The length of the view along one side: what the window gained or lost since it fitted the map,
 // never more than the map. A negative length counts as very large, so it is capped as well.
@@ -118,8 +113,8 @@ void MainWindow::initActions()
 void MainWindow::initUI()
 {
     initialSize = size();
-    hintLabel = newStatusLabel();
-    regionLabel = newStatusLabel();
+    hintLabel = new StatusLabel(hintWidth);
+    regionLabel = new StatusLabel(regionWidth);
     mapBrowser = new MapBrowser(ui->stackedWidget, hintLabel);
     ui->stackedWidget->addWidget(mapBrowser);
     ui->stackedWidget->setCurrentWidget(mapBrowser);

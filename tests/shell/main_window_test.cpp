@@ -401,6 +401,10 @@ void MainWindowTest::longHintsDoNotWidenTheWindow()
     QCoreApplication::processEvents();
     QCOMPARE(window.size(), first);
     QVERIFY(window.minimumSizeHint().width() <= 456);
+    // A long hint leaves the region's name whole and ends in an ellipsis itself.
+    const auto *region = statusLabel(window, 1);
+    QVERIFY(region->width() >= region->sizeHint().width());
+    QVERIFY(statusLabel(window, 0)->width() >= 300);
 }
 
 void MainWindowTest::aboutTellsTheGamesTexts()
