@@ -5,6 +5,8 @@
 
 #include <QtTest>
 
+#include <sys/resource.h>
+
 class CliHostileTest : public QObject
 {
     Q_OBJECT
@@ -20,7 +22,8 @@ private slots:
     void largestCampaignIsDumpedWithoutASecondCopy();
 
 private:
-    void check(const ChildResult &result);
+    // Runs the program on the game's folder with these words.
+    void check(const TinyGame &game, const QStringList &words);
 
     TinyGame m_game;
 };
@@ -41,6 +44,15 @@ constexpr qint64 millisecondsAllowed = 1000;
 #endif
 
 constexpr qint64 bombBytes = qint64(300) * 1024 * 1024;
+
+// The processor's time, which other work on the machine doesn't stretch as it does the clock's.
+qint64 childrenMilliseconds()
+{
+    rusage usage{};
+    getrusage(RUSAGE_CHILDREN, &usage);
+    const qint64 seconds = usage.ru_utime.tv_sec + usage.ru_stime.tv_sec;
+    return 1000 * seconds + (usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1000;
+}
 
 ByteWriter head(quint32 scenarios)
 {
@@ -104,8 +116,8 @@ void CliHostileTest::campaignIsReadSoonAndInLittleMemory()
     QFETCH(QByteArray, content);
     const QString file = m_game.write(QStringLiteral("hostile.e3c"), content);
     const QString out = m_game.path(QStringLiteral("out.e3c"));
-    check(m_game.run({QStringLiteral("dump"), file}));
-    check(m_game.run({QStringLiteral("resave"), file, out}));
+    check(m_game, {QStringLiteral("dump"), file});
+    check(m_game, {QStringLiteral("resave"), file, out});
 }
 
 void CliHostileTest::tableFileIsReadSoonAndInLittleMemory_data()
@@ -120,7 +132,7 @@ void CliHostileTest::tableFileIsReadSoonAndInLittleMemory()
     QFETCH(QByteArray, content);
     const TinyGame game;
     game.write(QStringLiteral("ravn.dat"), content);
-    check(game.run({QStringLiteral("tables")}));
+    check(game, {QStringLiteral("tables")});
 }
 
 void CliHostileTest::archiveIsReadSoonAndInLittleMemory_data()
@@ -136,8 +148,8 @@ void CliHostileTest::archiveIsReadSoonAndInLittleMemory()
     const TinyGame game;
     game.write(QStringLiteral("Data/Ravn_l_ext.lod"), content);
     const QString out = game.path(QStringLiteral("out"));
-    check(game.run({QStringLiteral("list")}));
-    check(game.run({QStringLiteral("extract"), QStringLiteral("hello.txt"), out}));
+    check(game, {QStringLiteral("list")});
+    check(game, {QStringLiteral("extract"), QStringLiteral("hello.txt"), out});
 }
 
 void CliHostileTest::largestCampaignIsDumpedWithoutASecondCopy()
@@ -155,13 +167,15 @@ void CliHostileTest::largestCampaignIsDumpedWithoutASecondCopy()
                  qPrintable(QStringLiteral("%1 KB").arg(result.peakKilobytes)));
 }
 
-void CliHostileTest::check(const ChildResult &result)
+void CliHostileTest::check(const TinyGame &game, const QStringList &words)
 {
+    const qint64 before = childrenMilliseconds();
+    const ChildResult result = game.run(words);
+    const qint64 spent = childrenMilliseconds() - before;
     QVERIFY(result.exitedNormally);
     QVERIFY2(result.exitCode == 0 || result.exitCode == 2, result.error);
     QCOMPARE(result.error.isEmpty(), result.exitCode == 0);
-    QVERIFY2(result.milliseconds < millisecondsAllowed,
-             qPrintable(QStringLiteral("%1 ms").arg(result.milliseconds)));
+    QVERIFY2(spent < millisecondsAllowed, qPrintable(QStringLiteral("%1 ms").arg(spent)));
     if (figuresCount)
         QVERIFY2(result.peakKilobytes < kilobytesAllowed,
                  qPrintable(QStringLiteral("%1 KB").arg(result.peakKilobytes)));
