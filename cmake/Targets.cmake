@@ -17,5 +17,5 @@ function(cmped_test name)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${TEST_TIMEOUT}
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;SDL_AUDIODRIVER=dummy;LC_ALL=C.UTF-8;CMPED_SAMPLE_GAME=${PROJECT_BINARY_DIR}/sample-game;CMPED_BIN=${PROJECT_BINARY_DIR}/bin")
+        ENVIRONMENT "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/leaks.supp:print_suppressions=0;QT_QPA_PLATFORM=offscreen;SDL_AUDIODRIVER=dummy;LC_ALL=C.UTF-8;CMPED_SAMPLE_GAME=${PROJECT_BINARY_DIR}/sample-game;CMPED_BIN=${PROJECT_BINARY_DIR}/bin")
 endfunction()
