@@ -193,7 +193,7 @@ private slots:
 
     void badNumbersReadAsZero()
     {
-        const CampaignInfo map = readLayout({"one", "1", "0x10 12a", "Name", "a", "b", "c"});
+        const CampaignInfo map = readLayout({"0x1", "1", "0x10 12a", "Name", "a", "b", "c"});
         QCOMPARE(map.layoutType, 0);
         QCOMPARE(map.regionCount, 1);
         QCOMPARE(map.regions[0].x, 0);

@@ -306,6 +306,7 @@ private slots:
         QTest::newRow("packed, farthest place") << 0xFFFFFFFFU << 20 << 10 << false;
         QTest::newRow("packed, negative size") << 124U << -1 << 10 << false;
         QTest::newRow("packed, negative packed size") << 124U << 20 << -1 << false;
+        QTest::newRow("packed, negative packed size, room for it raw") << 124U << 10 << -1 << false;
         QTest::newRow("packed, lowest packed size") << 124U << 20 << int(INT_MIN) << false;
         QTest::newRow("packed, largest packed size") << 124U << 20 << int(INT_MAX) << false;
         QTest::newRow("packed, no size") << 124U << 0 << 10 << true;
