@@ -104,7 +104,7 @@ QByteArray mapFile(quint32 seed)
 {
     int size = 4 * mapSize;
     for (int attempt = 0; attempt < 8; ++attempt) {
-        const QByteArray packed = pack(mapHeader() + mapBody(size, seed));
+        QByteArray packed = pack(mapHeader() + mapBody(size, seed));
         if (std::abs(packed.size() - mapSize) < mapSize / 100)
             return packed;
         size = int(qint64(size) * mapSize / packed.size());
