@@ -273,6 +273,10 @@ void RegionImageTest::patternIsTakenAtThePlaceOnTheMap()
     QCOMPARE(image.pixel(1, 0), 0x145082ffu);
     QCOMPARE(image.pixel(0, 1), 0x235082ffu);
     QCOMPARE(image.pixel(1, 1), 0x245082ffu);
+
+    EditorData::campaignInfo[4].regions = {CampaignRegion(),
+                                           EditorData::campaignInfo[0].regions[0]};
+    QCOMPARE(composed(2, lightBlue, 4, 1), image);
 }
 
 void RegionImageTest::pixelOutsideThePatternHasNoOpacity_data()
