@@ -20,9 +20,8 @@ QImage computedRegion(unsigned campaignId, unsigned index, const CampaignRegion 
     if (const QImage *cached = preloadArchive->getSmallGeneratedImage(campaignId, index))
         return *cached;
     qDebug() << "GENERATE REGION";
-    const QImage image =
-        createGeneratedImage(previewColour, campaignId, index, regionSelected, region.fillImage,
-                             region.borderImage, region.glowImage);
+    QImage image = createGeneratedImage(previewColour, campaignId, index, regionSelected,
+                                        region.fillImage, region.borderImage, region.glowImage);
     preloadArchive->saveSmallGeneratedImage(campaignId, index, image);
     return image;
 }
@@ -51,6 +50,7 @@ void drawRegions(QImage &picture, unsigned campaignId)
 
 } // namespace
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the interface takes the name by value
 void putBackgroundToLabel(QLabel *label, QString name, bool withRegions, unsigned int campaignId)
 {
     QImage picture = campaignBackground(name);
