@@ -14,8 +14,8 @@ QImage computedPicture(const CampaignRegion &shape, unsigned map, unsigned regio
 {
     if (const QImage *cached = preloadArchive->getLargeGeneratedImage(map, region, state, colour))
         return *cached;
-    const QImage image = createGeneratedImage(colour, map, region, state, shape.fillImage,
-                                              shape.borderImage, shape.glowImage);
+    QImage image = createGeneratedImage(colour, map, region, state, shape.fillImage,
+                                        shape.borderImage, shape.glowImage);
     preloadArchive->saveLargeGeneratedImage(map, region, state, colour, image);
     return image;
 }
