@@ -289,7 +289,7 @@ void Game::load() const
 
 QString Game::addCampaign(const QString &name, const QByteArray &bytes) const
 {
-    const QString target = filePath("Maps/" + name);
+    QString target = filePath("Maps/" + name);
     write(target, bytes);
     return target;
 }
