@@ -305,10 +305,24 @@ private slots:
         texts["PlColors.txt"] = "Red\r\nBlue";
         texts["CmpEditr.txt"] = "h\r\nh\r\nTitle\r\nMore";
         texts["JKTEXT.txt"] = "one\r\ntwo\r\n";
-        game_files::useTable({{"hero9", {{6, "Orla"}}}, {"campmap7", {{0, "Coast"}}}});
+        game_files::useTable({{"hero9", {{6, "Orla"}}},
+                              {"monst151", {{3, "Imp"}}},
+                              {"art150", {{1, "Crown"}}},
+                              {"secskill30", {{1, "Riding"}}},
+                              {"music", {{8, "Tune"}}},
+                              {"video", {{4, "Film"}}},
+                              {"cmpmoviepic", {{8, "Still"}}},
+                              {"cmpbackground", {{8, "Hall"}}},
+                              {"campmap7", {{0, "Coast"}}}});
+        const auto namesOfTheTableFile = [] {
+            return nameOf(EditorData::heroes, 9) + nameOf(EditorData::creatures, 151) +
+                   nameOf(EditorData::artifacts, 150) + nameOf(EditorData::secondarySkills, 30) +
+                   nameOf(EditorData::musicNames, 49) + nameOf(EditorData::videoNames, 1) +
+                   nameOf(EditorData::movieImages, 0) + nameOf(EditorData::backgrounds, 0);
+        };
         game.open(texts);
         QCOMPARE(int(EditorData::colors.size()), 2);
-        QCOMPARE(int(EditorData::heroes.size()), 1);
+        QCOMPARE(namesOfTheTableFile(), QStringLiteral("OrlaImpCrownRidingTuneFilmStillHall"));
 
         game_files::useTable({});
         texts["CmpEditr.txt"] = "h\r\nh\r\nTitle";
@@ -316,7 +330,7 @@ private slots:
         game.open(texts);
         QCOMPARE(int(EditorData::lod_archives.size()), 1);
         QCOMPARE(EditorData::colors, (std::vector<QString>{"Red", "Blue"}));
-        QVERIFY(EditorData::heroes.empty());
+        QCOMPARE(namesOfTheTableFile(), QString());
         QVERIFY(EditorData::campaignInfo.empty());
         QCOMPARE(EditorData::editorText, (std::map<int, QStringList>{{0, {"Title"}}}));
         QCOMPARE(EditorData::jktext, (std::map<int, QString>{{0, "one"}}));
