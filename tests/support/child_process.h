@@ -20,9 +20,10 @@ struct ChildResult
 // A program of the build's bin folder (CMPED_BIN) by its file name, or any other by its path.
 QString builtProgram(const QString &name);
 
-ChildResult runChild(const QString &program, const QStringList &arguments,
-                     const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment(),
-                     int timeoutMilliseconds = 60000);
+ChildResult runChild(
+    const QString &program, const QStringList &arguments,
+    const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment(),
+    int timeoutMilliseconds = 60000);
 
 // The sample game's folder (CMPED_SAMPLE_GAME).
 QString sampleGame();

@@ -78,14 +78,14 @@ Cancel
 QStringList hints()
 {
     return names::lines(R"(
-Click on a region to select it. Double-click on it to edit its scenario.
+Double-click a region to edit it.
 Start a new campaign.
 Open a campaign file.
 Save the campaign.
-Save the campaign under another name.
+Save under another name.
 Tell about the campaign editor.
 Leave the campaign editor.
-Choose what the campaign rests on.
+Choose what it rests on.
 Choose the campaign's background.
 Open this campaign again.
 Import the scenario's map.
@@ -94,12 +94,12 @@ Remove the scenario's map.
 Edit the scenario's prologue.
 Edit the scenario's epilogue.
 Edit what heroes carry over.
-Import all scenario maps anew from the campaign's folder.
-Export all scenario maps to the campaign's folder.
-Edit the campaign's name, description, music and background.
+Read all scenario maps anew.
+Write all scenario maps to files.
+Edit name, music and background.
 Edit the selected scenario.
-Write the campaign's texts to a file for translators.
-Take translated texts back from a file.
+Write the texts for translators.
+Take translated texts back.
 )");
 }
 
