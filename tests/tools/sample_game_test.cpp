@@ -209,7 +209,7 @@ void SampleGameTest::textTablesHoldTheirRows_data()
                         << "Cancel";
     row("CmpEdCmd.txt")
         << 2 << 0 << 1 << any << 22
-        << "Click on a region to select it. Double-click on it to edit its scenario."
+        << "Double-click a region to edit it."
         << "Take translated texts back from a file.";
     row("CmpMovie.txt") << 0 << 0 << 1 << any << 16 << "Rider at Dawn"
                         << "The Last Camp";
