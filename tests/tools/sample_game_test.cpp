@@ -210,7 +210,7 @@ void SampleGameTest::textTablesHoldTheirRows_data()
     row("CmpEdCmd.txt")
         << 2 << 0 << 1 << any << 22
         << "Double-click a region to edit it."
-        << "Take translated texts back from a file.";
+        << "Take translated texts back.";
     row("CmpMovie.txt") << 0 << 0 << 1 << any << 16 << "Rider at Dawn"
                         << "The Last Camp";
     row("CmpMusic.txt") << 0 << 1 << 1 << any << 49 << "River March"
