@@ -9,7 +9,7 @@ endfunction()
 set(CMPED_LEAK_OPTIONS
     "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/leaks.supp:print_suppressions=0")
 
-# cmped_test(NAME [SOURCE FILE] LINKS ...): one Qt Test program, tests/NAME.cpp, run by CTest
+# cmped_test(NAME [TIMEOUT SECONDS] LINKS ...): one Qt Test program, tests/NAME.cpp, run by CTest
 # on the offscreen platform. The sample game's folder is CMPED_SAMPLE_GAME in its environment.
 function(cmped_test name)
     cmake_parse_arguments(TEST "" "TIMEOUT" "LINKS" ${ARGN})

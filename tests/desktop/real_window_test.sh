@@ -101,7 +101,7 @@ pass "Ctrl+S writes the campaign"
 
 xdotool key alt+F4
 until_true eval '! kill -0 $editor' || fail "the window did not close"
-wait "$editor" || fail "the editor ended with exit status $?"
+wait "$editor" || fail "the editor ended with exit status $?: $(tail -n 30 "$work/log")"
 editor=
 grep -q '^\[Campaign Editor\]' "$work/game/Ravn_settings.ini" || fail "the settings are gone"
 grep -q 'sample.e3c' -r "$work/config" || fail "the file is not among the recent ones"
