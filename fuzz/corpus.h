@@ -13,11 +13,6 @@ struct File
     QByteArray bytes;
 };
 
-QByteArray gzip(const QByteArray &bytes); // as campaigns and maps are packed
-// The same of these bytes and so many zeros behind them, which need no memory here.
-QByteArray gzipWithZeros(const QByteArray &bytes, qint64 zeros);
-QByteArray zlibStream(const QByteArray &bytes); // as files in archives are packed
-
 std::vector<File> archives();
 std::vector<File> campaigns();
 std::vector<File> layouts();

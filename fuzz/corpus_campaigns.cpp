@@ -1,9 +1,12 @@
 #include "fuzz/corpus.h"
 #include "tests/support/byte_writer.h"
+#include "tests/support/packing.h"
 
 namespace corpus {
 
 namespace {
+
+using packing::gzip;
 
 // The widths of the tables that the target fills, and those of the older formats.
 struct Widths

@@ -2,10 +2,13 @@
 // layouts of campaign maps.
 #include "fuzz/corpus.h"
 #include "tests/support/byte_writer.h"
+#include "tests/support/packing.h"
 
 namespace corpus {
 
 namespace {
+
+using packing::zlibStream;
 
 constexpr quint32 headerSize = 92;
 constexpr quint32 entrySize = 32;

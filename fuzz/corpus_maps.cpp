@@ -1,9 +1,12 @@
 #include "fuzz/corpus.h"
 #include "tests/support/byte_writer.h"
+#include "tests/support/packing.h"
 
 namespace corpus {
 
 namespace {
+
+using packing::gzip;
 
 constexpr quint32 absurdCount = 0xffffffff;
 constexpr quint32 absurdLength = 0x7fffffff;

@@ -2,6 +2,7 @@
 #include "fuzz/corpus.h"
 #include "tests/cli/tiny_game.h"
 #include "tests/support/byte_writer.h"
+#include "tests/support/packing.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -82,18 +83,18 @@ QJsonObject withoutPrerequisites(QJsonObject dumped)
 
 QByteArray campaignNamed(const QByteArray &name)
 {
-    return corpus::gzip(ByteWriter()
-                            .u32(10)
-                            .u32(1)
-                            .u8(0)
-                            .u32(0)
-                            .u32(0)
-                            .u8(25)
-                            .text(name)
-                            .text({})
-                            .u8(0)
-                            .u8(0)
-                            .bytes());
+    return packing::gzip(ByteWriter()
+                             .u32(10)
+                             .u32(1)
+                             .u8(0)
+                             .u32(0)
+                             .u32(0)
+                             .u8(25)
+                             .text(name)
+                             .text({})
+                             .u8(0)
+                             .u8(0)
+                             .bytes());
 }
 
 } // namespace
@@ -188,7 +189,7 @@ void CliCampaignTest::dumpTellsAMap()
 {
     const QString file = m_game.write(QStringLiteral("a.e3c"), seedCampaign("version_10"));
     const QJsonObject scenario = scenarioOf(dump(file), 0);
-    const QByteArray map = corpus::gzip(corpus::mapHeader(28));
+    const QByteArray map = packing::gzip(corpus::mapHeader(28));
     const QByteArray hash = QCryptographicHash::hash(map, QCryptographicHash::Sha256).toHex();
     QCOMPARE(scenario["mapSize"].toInt(), map.size());
     QCOMPARE(scenario["compressedMap"].toObject(),

@@ -2,6 +2,7 @@
 #include "fuzz/corpus.h"
 #include "tests/cli/tiny_game.h"
 #include "tests/support/byte_writer.h"
+#include "tests/support/packing.h"
 
 #include <QtTest>
 
@@ -61,21 +62,21 @@ ByteWriter head(quint32 scenarios)
 
 QByteArray scenarioBombs(quint32 count)
 {
-    return corpus::gzipWithZeros(head(count).u32(0).u32(0).zeros(2).bytes(), bombBytes);
+    return packing::gzipWithZeros(head(count).u32(0).u32(0).zeros(2).bytes(), bombBytes);
 }
 
 QByteArray nameBomb(quint32 length)
 {
-    return corpus::gzipWithZeros(head(0).u32(length).bytes(), bombBytes);
+    return packing::gzipWithZeros(head(0).u32(length).bytes(), bombBytes);
 }
 
 // A scenario whose map is a bomb: its header, or what is behind it.
 QByteArray mapBomb(const QByteArray &start)
 {
-    const QByteArray map = corpus::gzipWithZeros(start, bombBytes);
+    const QByteArray map = packing::gzipWithZeros(start, bombBytes);
     ByteWriter file = head(1).u32(0).u32(0).zeros(2);
     file.text("bomb.e3m").u32(quint32(map.size())).zeros(1 + 2 + 4 + 6 + 1 + 24 + 20 + 1);
-    return corpus::gzip(file.bytes()) + map;
+    return packing::gzip(file.bytes()) + map;
 }
 
 QByteArray mapStart()
@@ -103,7 +104,7 @@ void CliHostileTest::campaignIsReadSoonAndInLittleMemory_data()
     QTest::newRow("bomb of 2^32-1 scenarios") << scenarioBombs(0xffffffff);
     QTest::newRow("bomb in the name") << nameBomb(0x7fffffff);
     QTest::newRow("bomb in the name, as long as stated") << nameBomb(quint32(bombBytes));
-    QTest::newRow("bomb without a version") << corpus::gzipWithZeros({}, bombBytes);
+    QTest::newRow("bomb without a version") << packing::gzipWithZeros({}, bombBytes);
     QTest::newRow("bomb behind a map's header") << mapBomb(corpus::mapHeader(28));
     QTest::newRow("bomb in a map's name")
         << mapBomb(mapStart() + ByteWriter().u32(0x7fffffff).bytes());

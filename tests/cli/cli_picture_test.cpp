@@ -2,6 +2,7 @@
 #include "fuzz/corpus.h"
 #include "tests/cli/tiny_game.h"
 #include "tests/support/byte_writer.h"
+#include "tests/support/packing.h"
 
 #include <QDir>
 #include <QFile>
@@ -45,12 +46,12 @@ QByteArray campaignOnMap(unsigned map, int regions)
             .u32(0)
             .zeros(2)
             .zeros(1 + 19 + 18 + 1);
-    return corpus::gzip(file.bytes());
+    return packing::gzip(file.bytes());
 }
 
 QByteArray campaignOnBackground(quint32 background)
 {
-    return corpus::gzip(
+    return packing::gzip(
         ByteWriter().u32(10).u32(1).u8(0).u32(background).zeros(4).u8(25).zeros(10).bytes());
 }
 

@@ -2,6 +2,7 @@
 
 #include "fuzz/corpus.h"
 #include "tests/support/byte_writer.h"
+#include "tests/support/packing.h"
 
 #include <QDir>
 #include <QFile>
@@ -27,7 +28,7 @@ QByteArray archive(const QVector<ArchiveFile> &files)
     index.raw(QByteArray("LOD\0", 4)).u32(200).u32(quint32(files.size())).zeros(80);
     QByteArray data;
     for (const ArchiveFile &file : files) {
-        const QByteArray stored = file.packed ? corpus::zlibStream(file.bytes) : file.bytes;
+        const QByteArray stored = file.packed ? packing::zlibStream(file.bytes) : file.bytes;
         index.name16(file.name).u32(quint32(headerSize + entrySize * files.size() + data.size()));
         index.u32(quint32(file.bytes.size())).u32(2);
         index.u32(file.packed ? quint32(stored.size()) : 0);

@@ -6,6 +6,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <zlib.h>
+
 class CampaignReaderTest : public QObject
 {
     Q_OBJECT

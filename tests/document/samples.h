@@ -3,12 +3,11 @@
 
 #include "gamedata/editor_data.h"
 #include "tests/support/byte_writer.h"
+#include "tests/support/packing.h"
 
 #include <QByteArray>
 #include <QFile>
 #include <QVector>
-
-#include <zlib.h>
 
 namespace samples {
 
@@ -27,47 +26,12 @@ inline void setTables()
         EditorData::heroes[hero] = QStringLiteral("hero");
 }
 
-// Packs with window bits of choice: 31 is gzip, 15 is zlib.
-inline QByteArray pack(const QByteArray &data, int level = Z_DEFAULT_COMPRESSION, int bits = 31)
-{
-    z_stream stream{};
-    deflateInit2(&stream, level, Z_DEFLATED, bits, 8, Z_DEFAULT_STRATEGY);
-    QByteArray packed(int(deflateBound(&stream, uLong(data.size()))), '\0');
-    stream.next_in = reinterpret_cast<Bytef *>(const_cast<char *>(data.constData()));
-    stream.avail_in = uInt(data.size());
-    stream.next_out = reinterpret_cast<Bytef *>(packed.data());
-    stream.avail_out = uInt(packed.size());
-    deflate(&stream, Z_FINISH);
-    packed.truncate(int(stream.total_out));
-    deflateEnd(&stream);
-    return packed;
-}
+using packing::pack;
 
-// A member of `count` zeros behind `head`, made in portions so that it needs no memory.
+// A member of `count` zeros behind `head`.
 inline QByteArray packWithZeros(const QByteArray &head, qint64 count)
 {
-    z_stream stream{};
-    deflateInit2(&stream, 9, Z_DEFLATED, 31, 8, Z_DEFAULT_STRATEGY);
-    QByteArray packed;
-    QByteArray room(1 << 16, '\0');
-    const QByteArray zeros(1 << 20, '\0');
-    QByteArray input = head;
-    for (bool last = false; !last;) {
-        last = count == 0 && input.isEmpty();
-        stream.next_in = reinterpret_cast<Bytef *>(input.data());
-        stream.avail_in = uInt(input.size());
-        do {
-            stream.next_out = reinterpret_cast<Bytef *>(room.data());
-            stream.avail_out = uInt(room.size());
-            deflate(&stream, last ? Z_FINISH : Z_NO_FLUSH);
-            packed.append(room.constData(), room.size() - int(stream.avail_out));
-        } while (stream.avail_out == 0);
-        const int part = int(qMin<qint64>(count, zeros.size()));
-        input = zeros.left(part);
-        count -= part;
-    }
-    deflateEnd(&stream);
-    return packed;
+    return packing::gzipWithZeros(head, count);
 }
 
 // Bytes that deflate can't shrink, the same for the same seed.
@@ -249,7 +213,7 @@ inline QByteArray campaignRecords(quint32 version, quint32 firstMap, quint32 las
 }
 
 inline QByteArray campaign(quint32 version, const QByteArray &firstMap, const QByteArray &lastMap,
-                           int level = Z_DEFAULT_COMPRESSION)
+                           int level = packing::usualLevel)
 {
     const QByteArray records =
         campaignRecords(version, quint32(firstMap.size()), quint32(lastMap.size()));

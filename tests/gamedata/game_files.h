@@ -6,14 +6,13 @@
 #include "gamedata/game_dir.h"
 #include "gamedata/runtime/dat_file.h"
 #include "tests/support/byte_writer.h"
+#include "tests/support/packing.h"
 
 #include <QDir>
 #include <QFile>
 #include <QMap>
 #include <QTemporaryDir>
 #include <QTextCodec>
-
-#include <zlib.h>
 
 #include <utility>
 #include <vector>
@@ -35,12 +34,7 @@ struct ArchiveEntry
 
 inline QByteArray packed(const QByteArray &data)
 {
-    uLongf size = compressBound(uLong(data.size()));
-    QByteArray result(int(size), '\0');
-    compress(reinterpret_cast<Bytef *>(result.data()), &size,
-             reinterpret_cast<const Bytef *>(data.constData()), uLong(data.size()));
-    result.truncate(int(size));
-    return result;
+    return packing::zlibStream(data);
 }
 
 // One index entry.
