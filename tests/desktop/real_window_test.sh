@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Drives the real launcher in a real window by mouse and keyboard: starts it on the sample
-# campaign, selects regions, saves, closes it, and looks at what is on the screen and on the disk.
+# Drives the real launcher in a real window by mouse and keyboard, and looks at what is on the
+# screen and on the disk: region clicks, wheel, menus, saving, a dropped file, recent files, sizes
+# and the end.
 #
 # Usage: real_window_test.sh BIN SAMPLE_GAME
 set -euo pipefail
@@ -8,12 +9,13 @@ set -euo pipefail
 bin=$1
 work=$(mktemp -d)
 cp -R "$2" "$work/game"
-campaign=$work/game/Maps/sample.e3c
+maps=$work/game/Maps
+campaign=$maps/sample.e3c
 export CMPED_GAME_DIR=$work/game XDG_CONFIG_HOME=$work/config SDL_AUDIODRIVER=dummy LC_ALL=C.UTF-8
 unset QT_QPA_PLATFORM
 
 cleanup() {
-    kill ${editor:-} ${manager:-} ${xvfb:-} 2>/dev/null || true
+    kill ${editor:-} ${source:-} ${manager:-} ${xvfb:-} 2>/dev/null || true
     wait 2>/dev/null || true
     rm -rf "$work"
 }
@@ -22,6 +24,7 @@ trap cleanup EXIT
 fail() {
     echo "FAIL: $*" >&2
     import -window root "${CMPED_FAILURE_PICTURE:-/dev/null}" 2>/dev/null || true
+    tail -n 20 "$work/log" >&2
     exit 1
 }
 pass() { echo "PASS: $*"; }
@@ -45,9 +48,13 @@ start_display() {
     manager=$!
 }
 
-find_window() { window=$(xdotool search --onlyvisible --name '^sample.e3c - ' | head -n 1) && [ -n "$window" ]; }
+find_window() { window=$(xdotool search --onlyvisible --name "^$1 - " | head -n 1) && [ -n "$window" ]; }
+title_begins() { [[ $(xdotool getwindowname "$window") == "$1 - "* ]]; }
 picture() { import -window "$window" rgb:- | sha256sum; }
 picture_is_not() { [ "$(picture)" != "$1" ]; }
+size() { xdotool getwindowgeometry --shell "$window" | grep -E '^(WIDTH|HEIGHT)=' | tr '\n' ' '; }
+size_is() { [ "$(size)" = "$1" ]; }
+size_is_not() { [ "$(size)" != "$1" ]; }
 
 # The picture once nothing moves any more.
 still_picture() {
@@ -66,43 +73,109 @@ click() {
     xdotool mousemove --window "$window" "$1" $(($2 + map_top)) click "${3:-1}"
 }
 
+regions_are_selected_by_both_buttons() {
+    local before selected
+    before=$(still_picture)
+    click 130 470
+    until_true picture_is_not "$before" || fail "a click on a region changed nothing"
+    pass "a click selects a region"
+
+    selected=$(still_picture)
+    click 130 470 4
+    click 130 470 5
+    [ "$(still_picture)" = "$selected" ] || fail "the wheel moved something"
+    pass "the wheel does nothing"
+
+    click 320 490 3
+    until_true picture_is_not "$selected" || fail "the right button changed nothing"
+    xdotool key Escape
+    pass "the right button selects a region and shows its menu"
+}
+
+saving_writes_the_expected_file() {
+    "$bin/cmped-cli" --game "$work/game" resave "$campaign" "$work/expected.e3c"
+    rm "$campaign"
+    xdotool key --window "$window" ctrl+s
+    until_true cmp "$campaign" "$work/expected.e3c" || fail "the saved file is not the one expected"
+    pass "Ctrl+S writes the campaign"
+}
+
+a_dropped_file_is_opened() {
+    "$bin/drag_source" "$maps/version_5.e3c" "$maps/version_6.e3c" &
+    source=$!
+    until_true xdotool search --onlyvisible --name '^drag source$' || fail "no drag source"
+    local from i
+    from=$(xdotool search --onlyvisible --name '^drag source$' | head -n 1)
+    xdotool mousemove --window "$from" 60 60 mousedown 1
+    for i in 40 80 120 160 200 240 280; do
+        xdotool mousemove --window "$window" $((400 - i)) $((300 + i / 4))
+        sleep 0.1
+    done
+    xdotool mouseup 1
+    until_true title_begins version_5.e3c || fail "the dropped file was not opened"
+    kill "$source"
+    source=
+    pass "the first of several dropped files is opened"
+}
+
+menu_is_open() { [ "$(xdotool search --onlyvisible --class cmped | wc -l)" -ge 2 ]; }
+
+a_recent_file_is_opened_from_the_menu() {
+    xdotool mousemove --window "$window" 20 12 click 1
+    until_true menu_is_open || fail "the menu did not open"
+    xdotool key 2
+    until_true title_begins sample.e3c || fail "the recent file was not opened"
+    pass "a recent file is opened by the keyboard"
+}
+
+sizes_come_and_go() {
+    local first picture_before
+    first=$(size)
+    picture_before=$(still_picture)
+    xdotool windowsize "$window" 380 500
+    until_true size_is_not "$first" || fail "the window can't be made smaller"
+    still_picture >/dev/null
+    click 100 200
+    xdotool windowsize "$window" 900 800
+    until_true size_is "WIDTH=900 HEIGHT=800 " || fail "the window can't be made larger"
+    xdotool windowsize "$window" $(sed -E 's/WIDTH=([0-9]+) HEIGHT=([0-9]+) /\1 \2/' <<<"$first")
+    until_true size_is "$first" || fail "the window did not get its first size back"
+    pass "the window can be made smaller and larger"
+
+    xdotool mousemove --window "$window" 200 -8 click --repeat 2 --delay 60 1
+    until_true size_is_not "$first" || fail "a double click on the title did not maximise"
+    still_picture >/dev/null
+    xdotool mousemove --window "$window" 200 -8 click --repeat 2 --delay 60 1
+    until_true size_is "$first" || fail "back from maximised the size is $(size), not $first"
+    pass "back from maximised the window has its first size"
+}
+
+closing_writes_settings_and_recent_files() {
+    xdotool windowactivate --sync "$window" key alt+F4
+    until_true eval '! kill -0 $editor' || fail "the window did not close"
+    wait "$editor" || fail "the editor ended with exit status $?"
+    editor=
+    grep -q '^\[Campaign Editor\]' "$work/game/Ravn_settings.ini" || fail "the settings are gone"
+    grep -q 'sample.e3c' -r "$work/config" || fail "the file is not among the recent ones"
+    pass "closing ends the editor with status 0, settings and recent files are written"
+}
+
 start_display
 "$bin/cmped" "$campaign" 2>"$work/log" &
 editor=$!
-until_true find_window || fail "the window did not come up: $(cat "$work/log")"
-find_window
+until_true find_window sample.e3c || fail "the window did not come up"
+find_window sample.e3c
 pass "the window came up with the campaign's name in its title"
 
-# The map fills the window between its bars: 600 pixels high, the status bar below it.
+# The map is 600 pixels high; menu and tool bar stand above it, the status bar below.
 eval "$(xdotool getwindowgeometry --shell "$window")"
 map_top=$((HEIGHT > 685 ? HEIGHT - 630 : 55))
-before=$(still_picture)
 
-click 130 470
-until_true picture_is_not "$before" || fail "a click on a region changed nothing"
-pass "a click selects a region"
+regions_are_selected_by_both_buttons
+saving_writes_the_expected_file
+a_dropped_file_is_opened
+menu_is_open() { [ "$(xdotool search --onlyvisible --class cmped | wc -l)" -ge 2 ]; }
 
-selected=$(still_picture)
-click 130 470 4
-click 130 470 5
-[ "$(still_picture)" = "$selected" ] || fail "the wheel moved something"
-pass "the wheel does nothing"
-
-click 320 490 3
-until_true picture_is_not "$selected" || fail "the right button changed nothing"
-xdotool key Escape
-pass "the right button selects a region and shows its menu"
-
-"$bin/cmped-cli" --game "$work/game" resave "$campaign" "$work/expected.e3c"
-rm "$campaign"
-xdotool key --window "$window" ctrl+s
-until_true cmp "$campaign" "$work/expected.e3c" || fail "the saved file is not the one expected"
-pass "Ctrl+S writes the campaign"
-
-xdotool key alt+F4
-until_true eval '! kill -0 $editor' || fail "the window did not close"
-wait "$editor" || fail "the editor ended with exit status $?: $(tail -n 30 "$work/log")"
-editor=
-grep -q '^\[Campaign Editor\]' "$work/game/Ravn_settings.ini" || fail "the settings are gone"
-grep -q 'sample.e3c' -r "$work/config" || fail "the file is not among the recent ones"
-pass "closing ends the editor with status 0, settings and recent files are written"
+a_recent_file_is_opened_from_the_menu
+sizes_come_and_go
+closing_writes_settings_and_recent_files
