@@ -48,20 +48,6 @@ QByteArrayList editorArguments(QByteArrayList arguments)
     return left;
 }
 
-// Whether a process answers a signal itself, as the kernel tells.
-bool catches(qint64 process, int number)
-{
-    QFile status(QString("/proc/%1/status").arg(process));
-    if (!status.open(QIODevice::ReadOnly))
-        return false;
-    const auto lines = status.readAll().split('\n');
-    for (const QByteArray &line : lines) {
-        if (line.startsWith("SigCgt:"))
-            return line.mid(7).trimmed().toULongLong(nullptr, 16) >> (number - 1) & 1;
-    }
-    return false;
-}
-
 } // namespace
 
 void LauncherTest::ownOptionsAreTakenOut_data()

@@ -1,6 +1,7 @@
 #include "tests/support/child_process.h"
 
 #include <QElapsedTimer>
+#include <QFile>
 #include <QProcess>
 
 #include <sys/resource.h>
@@ -13,6 +14,19 @@ QString builtProgram(const QString &name)
 QString sampleGame()
 {
     return qEnvironmentVariable("CMPED_SAMPLE_GAME");
+}
+
+bool catches(qint64 process, int signal)
+{
+    QFile status(QStringLiteral("/proc/%1/status").arg(process));
+    if (!status.open(QIODevice::ReadOnly))
+        return false;
+    const auto lines = status.readAll().split('\n');
+    for (const QByteArray &line : lines) {
+        if (line.startsWith("SigCgt:"))
+            return line.mid(7).trimmed().toULongLong(nullptr, 16) >> (signal - 1) & 1;
+    }
+    return false;
 }
 
 ChildResult runChild(const QString &program, const QStringList &arguments,

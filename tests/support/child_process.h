@@ -25,5 +25,8 @@ ChildResult runChild(
     const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment(),
     int timeoutMilliseconds = 60000);
 
+// Whether a process answers a signal itself, as the kernel tells.
+bool catches(qint64 process, int signal);
+
 // The sample game's folder (CMPED_SAMPLE_GAME).
 QString sampleGame();
