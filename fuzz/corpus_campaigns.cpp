@@ -93,7 +93,7 @@ ByteWriter head(quint32 version, bool hasMap, quint32 scenarioCount, unsigned ma
 QByteArray onMap(quint32 version)
 {
     const QByteArray map = gzip(mapHeader(28));
-    ByteWriter file = head(version, true, 0, 1);
+    ByteWriter file = head(version, true, 0, 25);
     file.raw(scenario(version, 3, map, 1));
     file.raw(scenario(version, 3, {}, 2)).raw(scenario(version, 3, {}, 3));
     return gzip(file.bytes()) + map;
@@ -144,7 +144,7 @@ std::vector<File> campaigns()
         {"version_5", onMap(5)},
         {"version_6", onMap(6)},
         {"version_10", onMap(10)},
-        {"version_10_plain", head(10, true, 0, 1).raw(scenario(10, 3, {}, 1)).bytes()},
+        {"version_10_plain", head(10, true, 0, 25).raw(scenario(10, 3, {}, 1)).bytes()},
         {"without_map", withoutMap()},
         {"version_11", gzip(ByteWriter().u32(11).zeros(40).bytes())},
         {"subversion_2", gzip(ByteWriter().u32(10).u32(2).zeros(40).bytes())},

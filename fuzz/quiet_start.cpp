@@ -32,9 +32,9 @@ void fillSmallTables()
 {
     EditorData::nArtifacts = artifactCount;
     EditorData::nCreatures = creatureCount;
-    addMap(0, 3);
+    addMap(0, 8);
     addMap(5, 12);
-    addMap(24, 8);
+    addMap(24, 3);
     for (int hero = 0; hero < heroCount; ++hero)
         EditorData::heroes[hero] = QStringLiteral("Hero");
 }

@@ -6,5 +6,5 @@
 void startQuietly();
 
 // Tables of a small game without its files: the widths of a campaign's bit arrays, three campaign
-// maps of which 24 has eight regions, some heroes.
+// maps of which 24 has three regions, some heroes.
 void fillSmallTables();

@@ -1,5 +1,6 @@
 // The commands on the game's data: tables, list and extract.
-#include "tests/cli/tiny_game.h"
+#include "tests/cli/cli_game.h"
+#include "tests/support/packing.h"
 
 #include <QFile>
 #include <QImage>
@@ -16,6 +17,8 @@ private slots:
     void tablesHaveEveryMember();
     void tablesKeepNumericOrder();
     void tablesTellCampaignMaps();
+    void tablesTellArchives();
+    void everyCallGivesTheSameBytes();
     void gameTextsGoThroughTheGamesCodec();
     void listGoesByPrecedence();
     void extractTakesTheFirstArchive();
@@ -26,7 +29,7 @@ private slots:
     void fullStandardOutputEndsWithStatusTwo();
 
 private:
-    TinyGame m_game;
+    CliGame m_game;
 };
 
 namespace {
@@ -72,23 +75,26 @@ void CliDataTest::tablesHaveEveryMember()
     QCOMPARE(all["codec"].toString(), QStringLiteral("windows-1252"));
     QCOMPARE(all["nArtifacts"].toInt(), 160);
     QCOMPARE(all["nCreatures"].toInt(), 186);
-    QCOMPARE(all["creatures"].toObject()["2"].toString(), QStringLiteral("Ogre"));
+    QCOMPARE(all["creatures"].toObject()["2"].toString(), QStringLiteral("Creature 2"));
     QCOMPARE(all["creatures"].toObject()["185"].toString(), QStringLiteral("Beast"));
-    QCOMPARE(all["heroes"].toObject()["1"].toString(), QStringLiteral("Brand"));
+    QCOMPARE(all["heroes"].toObject()["9"].toString(), QStringLiteral("Hero 9"));
     QCOMPARE(all["primarySkills"].toObject(), (QJsonObject{{"0", "Attack"}, {"1", "Sense"}}));
     QCOMPARE(all["skillLevels"].toObject(),
              (QJsonObject{{"1", "Basic"}, {"2", "Advanced"}, {"3", "Expert"}}));
-    QCOMPARE(all["colors"].toArray(), (QJsonArray{"Red", "Blue"}));
-    QCOMPARE(all["editorText"].toObject()["0"].toArray(), (QJsonArray{"Tiny Editor", "x"}));
+    QCOMPARE(all["colors"].toArray().size(), 8);
+    QCOMPARE(all["colors"].toArray().at(7).toString(), QStringLiteral("Colour 7"));
+    QCOMPARE(all["editorText"].toObject()["0"].toArray(),
+             (QJsonArray{"Tiny Campaign Editor", "more"}));
     QCOMPARE(all["creature_ordering"].toArray().at(0).toInt(), 0);
-    QCOMPARE(all["buildings"].toObject()["-1"].toObject()["11"].toString(), QStringLiteral("Well"));
+    QCOMPARE(all["buildings"].toObject()["-1"].toObject()["11"].toString(),
+             QStringLiteral("Neutral 0"));
     QCOMPARE(all["info"].toObject(), (QJsonObject{{"campaign", 0}, {"version", 0}, {"region", 0}}));
 }
 
 void CliDataTest::tablesKeepNumericOrder()
 {
     const QByteArray text = m_game.run({tables}).output;
-    const int second = text.indexOf("\n    \"2\": \"Ogre\"");
+    const int second = text.indexOf("\n    \"2\": \"Creature 2\"");
     const int late = text.indexOf("\n    \"155\": \"Beast\"");
     QVERIFY(second > 0);
     QVERIFY(late > second);
@@ -99,28 +105,73 @@ void CliDataTest::tablesKeepNumericOrder()
 void CliDataTest::tablesTellCampaignMaps()
 {
     const QJsonObject all = QJsonDocument::fromJson(m_game.run({tables}).output).object();
-    const QJsonObject map = all["campaignInfo"].toObject()["0"].toObject();
-    QCOMPARE(map["name"].toString(), QStringLiteral("Three Lands"));
-    QCOMPARE(map["regionCount"].toInt(), 3);
+    const QJsonObject map = all["campaignInfo"].toObject()["3"].toObject();
+    QCOMPARE(map["name"].toString(), QStringLiteral("Two Keeps"));
+    QCOMPARE(map["regionCount"].toInt(), 2);
     QCOMPARE(map["layoutType"].toInt(-1), 0);
     QCOMPARE(map["generated"].toBool(true), false);
-    QCOMPARE(map["backgroundName"].toString(), QStringLiteral("back.pcx"));
-    const QJsonObject region = map["regions"].toArray().at(1).toObject();
-    QCOMPARE(region["x"].toInt(), 30);
-    QCOMPARE(region["y"].toInt(), 40);
-    QCOMPARE(region["name"].toString(), QStringLiteral("Middle"));
-    QCOMPARE(region["imageNames"].toArray().at(2).toArray().at(7).toString(),
-             QStringLiteral("s2c7.pcx"));
-    const QJsonObject computed = all["campaignInfo"].toObject()["5"].toObject();
+    QCOMPARE(map["backgroundName"].toString(), QStringLiteral("backtwo.pcx"));
+    QCOMPARE(map["regions"].toArray().size(), 2);
+    QJsonObject region = map["regions"].toArray().at(1).toObject();
+    const QJsonArray looks = region.take(QStringLiteral("imageNames")).toArray();
+    QCOMPARE(region, (QJsonObject{{"x", 100},
+                                  {"y", 100},
+                                  {"name", "East Keep"},
+                                  {"borderImage", ""},
+                                  {"glowImage", ""},
+                                  {"fillImage", ""}}));
+    QCOMPARE(looks.size(), 3);
+    QCOMPARE(looks.at(2).toArray().at(7).toString(), QStringLiteral("k1s2c7.pcx"));
+    const QJsonObject computed = all["campaignInfo"].toObject()["24"].toObject();
+    QCOMPARE(computed["layoutType"].toInt(), 1);
     QCOMPARE(computed["generated"].toBool(), true);
-    QCOMPARE(computed["regions"].toArray().at(0).toObject()["glowImage"].toString(),
-             QStringLiteral("glow.pcx"));
-    QCOMPARE(all["backgrounds"].toObject(), (QJsonObject{{"0", "wide.pcx"}, {"1", "none.pcx"}}));
+    QCOMPARE(computed["regions"].toArray().at(0).toObject(),
+             (QJsonObject{{"x", 20},
+                          {"y", 30},
+                          {"name", "Alder Bay"},
+                          {"imageNames", QJsonArray{QJsonArray(), QJsonArray(), QJsonArray()}},
+                          {"borderImage", "r0b.pcx"},
+                          {"glowImage", "r0g.pcx"},
+                          {"fillImage", "r0f.pcx"}}));
+    QCOMPARE(all["backgrounds"].toObject(),
+             (QJsonObject{{"0", "plainone.pcx"}, {"1", "plaintwo.pcx"}}));
+}
+
+void CliDataTest::tablesTellArchives()
+{
+    const QJsonObject all = QJsonDocument::fromJson(m_game.run({tables}).output).object();
+    const QJsonArray archives = all["lod_archives"].toArray();
+    QCOMPARE(archives.size(), 2);
+    // A header of 92 bytes, an entry of 32, then the packed file.
+    const QByteArray packed = packing::zlibStream("Attack\r\nSense\r\n");
+    const QJsonObject file{{"name", "priskill.TXT"},
+                           {"offset", 124},
+                           {"size", 15},
+                           {"type", 7},
+                           {"compressedSize", packed.size()}};
+    QCOMPARE(archives.at(0).toObject(),
+             (QJsonObject{{"path", "Ravn_lng.lod"},
+                          {"version", 200},
+                          {"fileCount", 1},
+                          {"files", QJsonObject{{"priskill.txt", file}}}}));
+    QCOMPARE(archives.at(1).toObject()["path"].toString(), QStringLiteral("E3bitmap.lod"));
+}
+
+void CliDataTest::everyCallGivesTheSameBytes()
+{
+    for (const QString &command : {tables, QStringLiteral("list")}) {
+        // The same game in another folder.
+        const CliGame copy;
+        const QByteArray once = m_game.run({command}).output;
+        QVERIFY(!once.isEmpty());
+        QVERIFY(m_game.run({command}).output == once);
+        QVERIFY(copy.run({command}).output == once);
+    }
 }
 
 void CliDataTest::gameTextsGoThroughTheGamesCodec()
 {
-    const TinyGame game;
+    const CliGame game;
     const auto artifact = [&game] {
         const QJsonObject all = QJsonDocument::fromJson(game.run({tables}).output).object();
         return all["artifacts"].toObject()["159"].toString();
@@ -142,15 +193,16 @@ void CliDataTest::listGoesByPrecedence()
     const QList<QByteArray> lines = result.output.split('\n');
     QCOMPARE(lines.first(), QByteArray("priskill.TXT\tRavn_lng.lod\t15"));
     QCOMPARE(lines.last(), QByteArray());
-    QVERIFY(lines.contains("PriSkill.txt\tE3bitmap.lod\t8"));
-    QVERIFY(lines.contains("s2c7.pcx\tE3bitmap.lod\t796"));
-    // Sixteen text tables, 24 ready-made pictures, seven others, one table in the other archive.
-    QCOMPARE(lines.size() - 1, 16 + 24 + 7 + 1);
+    QVERIFY(lines.contains("PriSkill.txt\tE3bitmap.lod\t44"));
+    QVERIFY(lines.contains("k1s2c7.pcx\tE3bitmap.lod\t1380"));
+    // Sixteen text tables, 48 ready-made pictures, nine masks, five backgrounds, two others, and
+    // one table in the other archive.
+    QCOMPARE(lines.size() - 1, 16 + 48 + 9 + 5 + 2 + 1);
 }
 
 void CliDataTest::extractTakesTheFirstArchive()
 {
-    const QString out = m_game.path(QStringLiteral("skills.txt"));
+    const QString out = m_game.filePath(QStringLiteral("skills.txt"));
     const ChildResult result = m_game.run({extract, QStringLiteral("PRISKILL.txt"), out});
     QCOMPARE(result.error, QByteArray());
     QCOMPARE(result.exitCode, 0);
@@ -163,9 +215,10 @@ void CliDataTest::extractMakesPictures_data()
     QTest::addColumn<QSize>("size");
     QTest::addColumn<QRgb>("corner");
     QTest::addColumn<QRgb>("inside");
-    QTest::newRow("palette") << "s1c3.pcx" << QSize(4, 4) << qRgba(0, 0, 0, 0) << qRgb(100, 30, 7);
-    QTest::newRow("24 bits") << "colour.pcx" << QSize(5, 3) << qRgb(10, 20, 30) << qRgb(10, 20, 30);
-    QTest::newRow("32 bits") << "wide.pcx" << QSize(456, 600) << qRgb(9, 8, 7) << qRgb(9, 8, 7);
+    QTest::newRow("palette") << "r2f.pcx" << QSize(20, 20) << qRgba(0, 0, 0, 0) << qRgb(0, 0, 0);
+    QTest::newRow("24 bits") << "backtwo.pcx" << QSize(456, 600) << qRgb(60, 30, 10)
+                             << qRgb(60, 30, 10);
+    QTest::newRow("32 bits") << "wide.pcx" << QSize(15, 10) << qRgb(9, 8, 7) << qRgb(9, 8, 7);
 }
 
 void CliDataTest::extractMakesPictures()
@@ -174,12 +227,12 @@ void CliDataTest::extractMakesPictures()
     QFETCH(QSize, size);
     QFETCH(QRgb, corner);
     QFETCH(QRgb, inside);
-    const QString out = m_game.path(QStringLiteral("picture.PNG"));
+    const QString out = m_game.filePath(QStringLiteral("picture.PNG"));
     QCOMPARE(m_game.run({extract, name, out}).exitCode, 0);
     const QImage image(out);
     QCOMPARE(image.size(), size);
     QCOMPARE(image.pixel(0, 0), corner);
-    QCOMPARE(image.pixel(2, 2), inside);
+    QCOMPARE(image.pixel(8, 8), inside);
 }
 
 void CliDataTest::extractTellsWhatIsWrong_data()
@@ -197,7 +250,7 @@ void CliDataTest::extractTellsWhatIsWrong_data()
                                     << "none/out.txt"
                                     << "Error: Cannot write file %1:\nNo such file or directory.\n";
     QTest::newRow("no such folder for a picture")
-        << "s1c1.pcx"
+        << "k1s1c1.pcx"
         << "none/out.png"
         << "Error: Cannot write file %1:\nNo such file or directory.\n";
 }
@@ -207,7 +260,7 @@ void CliDataTest::extractTellsWhatIsWrong()
     QFETCH(QString, name);
     QFETCH(QString, out);
     QFETCH(QString, message);
-    const QString target = m_game.path(out);
+    const QString target = m_game.filePath(out);
     const ChildResult result = m_game.run({extract, name, target});
     QCOMPARE(QString::fromUtf8(result.error), message.replace(QLatin1String("%1"), target));
     QCOMPARE(result.exitCode, 2);
@@ -221,7 +274,7 @@ void CliDataTest::fullStandardOutputEndsWithStatusTwo()
             runChild(QStringLiteral("/bin/sh"),
                      {QStringLiteral("-c"),
                       QStringLiteral("exec \"$0\" --game \"$1\" %1 >/dev/full").arg(command),
-                      builtProgram(QStringLiteral("cmped-cli")), m_game.path(QString())});
+                      builtProgram(QStringLiteral("cmped-cli")), m_game.path()});
         QCOMPARE(result.error,
                  QByteArray("Error: Cannot write file standard output:\nNo space left "
                             "on device.\n"));

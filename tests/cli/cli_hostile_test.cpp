@@ -1,6 +1,6 @@
 // Files made to hurt: whatever they hold, the program ends by itself, soon, and in little memory.
 #include "fuzz/corpus.h"
-#include "tests/cli/tiny_game.h"
+#include "tests/cli/cli_game.h"
 #include "tests/support/byte_writer.h"
 #include "tests/support/packing.h"
 
@@ -24,9 +24,9 @@ private slots:
 
 private:
     // Runs the program on the game's folder with these words.
-    void check(const TinyGame &game, const QStringList &words);
+    void check(const CliGame &game, const QStringList &words);
 
-    TinyGame m_game;
+    CliGame m_game;
 };
 
 namespace {
@@ -116,7 +116,7 @@ void CliHostileTest::campaignIsReadSoonAndInLittleMemory()
 {
     QFETCH(QByteArray, content);
     const QString file = m_game.write(QStringLiteral("hostile.e3c"), content);
-    const QString out = m_game.path(QStringLiteral("out.e3c"));
+    const QString out = m_game.filePath(QStringLiteral("out.e3c"));
     check(m_game, {QStringLiteral("dump"), file});
     check(m_game, {QStringLiteral("resave"), file, out});
 }
@@ -131,7 +131,7 @@ void CliHostileTest::tableFileIsReadSoonAndInLittleMemory_data()
 void CliHostileTest::tableFileIsReadSoonAndInLittleMemory()
 {
     QFETCH(QByteArray, content);
-    const TinyGame game;
+    const CliGame game;
     game.write(QStringLiteral("ravn.dat"), content);
     check(game, {QStringLiteral("tables")});
 }
@@ -146,9 +146,9 @@ void CliHostileTest::archiveIsReadSoonAndInLittleMemory_data()
 void CliHostileTest::archiveIsReadSoonAndInLittleMemory()
 {
     QFETCH(QByteArray, content);
-    const TinyGame game;
+    const CliGame game;
     game.write(QStringLiteral("Data/Ravn_l_ext.lod"), content);
-    const QString out = game.path(QStringLiteral("out"));
+    const QString out = game.filePath(QStringLiteral("out"));
     check(game, {QStringLiteral("list")});
     check(game, {QStringLiteral("extract"), QStringLiteral("hello.txt"), out});
 }
@@ -160,7 +160,7 @@ void CliHostileTest::largestCampaignIsDumpedWithoutASecondCopy()
     const ChildResult result = runChild(
         QStringLiteral("/bin/sh"),
         {QStringLiteral("-c"), QStringLiteral("exec \"$0\" --game \"$1\" dump \"$2\" >/dev/null"),
-         builtProgram(QStringLiteral("cmped-cli")), m_game.path(QString()), file});
+         builtProgram(QStringLiteral("cmped-cli")), m_game.path(), file});
     QCOMPARE(result.error, QByteArray());
     QCOMPARE(result.exitCode, 0);
     if (figuresCount)
@@ -168,7 +168,7 @@ void CliHostileTest::largestCampaignIsDumpedWithoutASecondCopy()
                  qPrintable(QStringLiteral("%1 KB").arg(result.peakKilobytes)));
 }
 
-void CliHostileTest::check(const TinyGame &game, const QStringList &words)
+void CliHostileTest::check(const CliGame &game, const QStringList &words)
 {
     const qint64 before = childrenMilliseconds();
     const ChildResult result = game.run(words);

@@ -1,6 +1,6 @@
 // The commands that draw: render and region.
 #include "fuzz/corpus.h"
-#include "tests/cli/tiny_game.h"
+#include "tests/cli/cli_game.h"
 #include "tests/support/byte_writer.h"
 #include "tests/support/packing.h"
 
@@ -9,13 +9,17 @@
 #include <QImage>
 #include <QtTest>
 
+#include <cstdlib>
+
 class CliPictureTest : public QObject
 {
     Q_OBJECT
 
 private slots:
     void renderDrawsRegionsInTheirLooks();
+    void renderBlendsComputedRegions();
     void renderDrawsABackgroundAlone();
+    void renderFitsALargeBackground();
     void renderTellsWhatIsMissing_data();
     void renderTellsWhatIsMissing();
     void regionIsReadyMadeOrComputed_data();
@@ -25,7 +29,7 @@ private slots:
     void sampleCampaignsAreDrawn();
 
 private:
-    TinyGame m_game;
+    CliGame m_game;
 };
 
 namespace {
@@ -49,6 +53,14 @@ QByteArray campaignOnMap(unsigned map, int regions)
     return packing::gzip(file.bytes());
 }
 
+// Give or take the rounding of a blend.
+bool isAbout(QRgb shown, QRgb expected)
+{
+    return std::abs(qRed(shown) - qRed(expected)) <= 2 &&
+           std::abs(qGreen(shown) - qGreen(expected)) <= 2 &&
+           std::abs(qBlue(shown) - qBlue(expected)) <= 2;
+}
+
 QByteArray campaignOnBackground(quint32 background)
 {
     return packing::gzip(
@@ -59,32 +71,64 @@ QByteArray campaignOnBackground(quint32 background)
 
 void CliPictureTest::renderDrawsRegionsInTheirLooks()
 {
-    // Its first scenario has a map, the others have none; all are of colour 2.
-    const QString file = m_game.write(QStringLiteral("a.e3c"), seedCampaign("version_10"));
-    const QString out = m_game.path(QStringLiteral("a.png"));
+    const QString file =
+        m_game.addCampaign(QStringLiteral("keeps.e3c"), tiny::campaign(3, {{true, 4}, {true, 6}}));
+    const QString out = m_game.filePath(QStringLiteral("a.png"));
     const ChildResult result = m_game.run({render, file, out});
     QCOMPARE(result.error, QByteArray());
     QCOMPARE(result.exitCode, 0);
     const QImage image(out);
+    const QRgb background = qRgb(60, 30, 10);
     QCOMPARE(image.size(), QSize(456, 600));
-    QCOMPARE(image.pixel(0, 0), qRgb(1, 2, 3));
-    QCOMPARE(image.pixel(455, 599), qRgb(1, 2, 3));
-    QCOMPARE(image.pixel(11, 21), qRgb(100, 20, 7)); // selected
-    QCOMPARE(image.pixel(10, 20), qRgb(1, 2, 3));    // its transparent corner
-    QCOMPARE(image.pixel(13, 23), qRgb(100, 20, 7));
-    QCOMPARE(image.pixel(14, 24), qRgb(1, 2, 3));
-    QCOMPARE(image.pixel(31, 41), qRgb(200, 20, 7)); // without a map
-    QCOMPARE(image.pixel(51, 61), qRgb(200, 20, 7));
+    QCOMPARE(image.pixel(0, 0), background);
+    QCOMPARE(image.pixel(455, 599), background);
+    // The first one is selected, at (10, 10) and 30 by 20 large.
+    QCOMPARE(image.pixel(10, 10), qRgb(80, 105, 33));
+    QCOMPARE(image.pixel(39, 29), qRgb(80, 105, 33));
+    QCOMPARE(image.pixel(9, 10), background);
+    QCOMPARE(image.pixel(40, 29), background);
+    // The other has a map.
+    QCOMPARE(image.pixel(100, 100), qRgb(20, 155, 133));
+    // Without its map it looks otherwise; the selected one doesn't.
+    m_game.addCampaign(QStringLiteral("keeps.e3c"), tiny::campaign(3, {{false, 4}, {false, 6}}));
+    QCOMPARE(m_game.run({render, file, out}).exitCode, 0);
+    QCOMPARE(QImage(out).pixel(10, 10), qRgb(80, 105, 33));
+    QCOMPARE(QImage(out).pixel(100, 100), qRgb(140, 155, 133));
+}
+
+void CliPictureTest::renderBlendsComputedRegions()
+{
+    // Its first scenario has a map, the others have none; all are of colour 2.
+    const QString file = m_game.write(QStringLiteral("a.e3c"), seedCampaign("version_10"));
+    const QString out = m_game.filePath(QStringLiteral("a.png"));
+    QCOMPARE(m_game.run({render, file, out}).exitCode, 0);
+    const QImage image(out);
+    const QRgb background = qRgb(10, 60, 30);
+    QCOMPARE(image.pixel(0, 0), background);
+    // (224, 197, 169) of opacity 175 on the background.
+    QVERIFY(isAbout(image.pixel(21, 31), qRgb(156, 154, 125)));
+    // (193, 139, 84) of opacity 60, but for the transparent corner.
+    QVERIFY(isAbout(image.pixel(210, 310), qRgb(53, 78, 42)));
+    QCOMPARE(image.pixel(201, 301), background);
 }
 
 void CliPictureTest::renderDrawsABackgroundAlone()
 {
-    const QString file = m_game.write(QStringLiteral("b.e3c"), campaignOnBackground(0));
-    const QString out = m_game.path(QStringLiteral("b.png"));
+    const QString file = m_game.write(QStringLiteral("b.e3c"), campaignOnBackground(1));
+    const QString out = m_game.filePath(QStringLiteral("b.png"));
     QCOMPARE(m_game.run({render, file, out}).exitCode, 0);
     const QImage image(out);
     QCOMPARE(image.size(), QSize(456, 600));
-    QCOMPARE(image.pixel(200, 300), qRgb(9, 8, 7));
+    QCOMPARE(image.pixel(200, 300), qRgb(90, 5, 90));
+}
+
+void CliPictureTest::renderFitsALargeBackground()
+{
+    const QString file = m_game.write(QStringLiteral("large.e3c"), campaignOnMap(30, 0));
+    const QString out = m_game.filePath(QStringLiteral("large.png"));
+    QCOMPARE(m_game.run({render, file, out}).exitCode, 0);
+    QCOMPARE(QImage(out).size(), QSize(456, 600));
+    QCOMPARE(QImage(out).pixel(455, 599), qRgb(128, 0, 0));
 }
 
 void CliPictureTest::renderTellsWhatIsMissing_data()
@@ -92,9 +136,11 @@ void CliPictureTest::renderTellsWhatIsMissing_data()
     QTest::addColumn<QByteArray>("campaign");
     QTest::addColumn<QByteArray>("message");
     QTest::newRow("background of a map")
-        << campaignOnMap(8, 1) << QByteArray("Can't find none.pcx file in lod file");
+        << campaignOnMap(5, 0) << QByteArray("Can't find nosuch.pcx file in lod file");
     QTest::newRow("background alone")
-        << campaignOnBackground(1) << QByteArray("Can't find none.pcx file in lod file");
+        << campaignOnBackground(2) << QByteArray("Can't find  file in lod file");
+    QTest::newRow("region") << campaignOnMap(6, 1)
+                            << QByteArray("Can't find gone.pcx file in lod file");
     QTest::newRow("mask") << campaignOnMap(7, 1) << QByteArray("Unable to generate image");
 }
 
@@ -103,7 +149,7 @@ void CliPictureTest::renderTellsWhatIsMissing()
     QFETCH(QByteArray, campaign);
     QFETCH(QByteArray, message);
     const QString file = m_game.write(QStringLiteral("c.e3c"), campaign);
-    const QString out = m_game.path(QStringLiteral("c.png"));
+    const QString out = m_game.filePath(QStringLiteral("c.png"));
     const ChildResult result = m_game.run({render, file, out});
     QVERIFY(result.exitedNormally);
     QCOMPARE(result.error, "Error: " + message + "\n");
@@ -114,28 +160,35 @@ void CliPictureTest::renderTellsWhatIsMissing()
 void CliPictureTest::regionIsReadyMadeOrComputed_data()
 {
     QTest::addColumn<QStringList>("numbers");
+    QTest::addColumn<QSize>("size");
     QTest::addColumn<QRgb>("pixel");
-    QTest::newRow("ready-made 0") << QStringList{"0", "1", "0", "5"} << qRgb(0, 50, 7);
-    QTest::newRow("ready-made 1") << QStringList{"0", "2", "1", "7"} << qRgb(100, 70, 7);
-    QTest::newRow("ready-made 2") << QStringList{"0", "0", "2", "0"} << qRgb(200, 0, 7);
+    const QSize keep(30, 20);
+    const QSize hill(40, 30);
+    QTest::newRow("ready-made 0") << QStringList{"3", "1", "0", "5"} << keep << qRgb(20, 130, 133);
+    QTest::newRow("ready-made 1") << QStringList{"3", "0", "1", "7"} << keep << qRgb(80, 180, 33);
+    QTest::newRow("ready-made 2") << QStringList{"3", "0", "2", "0"} << keep << qRgb(140, 5, 33);
     // Red under a glow of 128 without a border.
-    QTest::newRow("unselected") << QStringList{"5", "0", "0", "0"} << qRgba(190, 0, 0, 175);
-    QTest::newRow("selected") << QStringList{"5", "0", "1", "0"} << qRgba(255, 127, 127, 175);
-    QTest::newRow("unused") << QStringList{"5", "0", "2", "0"} << qRgba(255, 0, 0, 60);
+    QTest::newRow("unselected") << QStringList{"24", "1", "0", "0"} << hill
+                                << qRgba(190, 0, 0, 175);
+    QTest::newRow("selected") << QStringList{"24", "1", "1", "0"} << hill
+                              << qRgba(255, 127, 127, 175);
+    QTest::newRow("unused") << QStringList{"24", "1", "2", "0"} << hill << qRgba(255, 0, 0, 60);
 }
 
 void CliPictureTest::regionIsReadyMadeOrComputed()
 {
     QFETCH(QStringList, numbers);
+    QFETCH(QSize, size);
     QFETCH(QRgb, pixel);
-    const QString out = m_game.path(QStringLiteral("region.png"));
+    const QString out = m_game.filePath(QStringLiteral("region.png"));
     const ChildResult result = m_game.run(QStringList{"region"} + numbers + QStringList{out});
     QCOMPARE(result.error, QByteArray());
     QCOMPARE(result.exitCode, 0);
     const QImage image(out);
-    QCOMPARE(image.size(), QSize(4, 4));
-    QCOMPARE(image.pixel(2, 1), pixel);
-    QCOMPARE(image.pixel(0, 0), qRgba(0, 0, 0, 0));
+    QCOMPARE(image.size(), size);
+    QCOMPARE(image.pixel(12, 1), pixel);
+    // Only the computed one has a hole in its corner.
+    QCOMPARE(image.pixel(0, 0), numbers[0] == "24" ? qRgba(0, 0, 0, 0) : pixel);
 }
 
 void CliPictureTest::regionTellsWhatIsMissing_data()
@@ -144,9 +197,9 @@ void CliPictureTest::regionTellsWhatIsMissing_data()
     QTest::addColumn<QByteArray>("message");
     QTest::newRow("mask") << QStringList{"7", "0", "0", "0"}
                           << QByteArray("Unable to generate image");
-    QTest::newRow("picture") << QStringList{"8", "0", "0", "0"}
-                             << QByteArray("Can't find none.pcx file in lod file");
-    QTest::newRow("name") << QStringList{"8", "0", "0", "1"}
+    QTest::newRow("picture") << QStringList{"6", "0", "0", "7"}
+                             << QByteArray("Can't find gone.pcx file in lod file");
+    QTest::newRow("name") << QStringList{"6", "0", "2", "1"}
                           << QByteArray("Can't find  file in lod file");
 }
 
@@ -167,7 +220,7 @@ void CliPictureTest::sampleCampaignsAreDrawn()
     const QDir maps(sampleGame() + QStringLiteral("/Maps"));
     const QStringList names = maps.entryList({QStringLiteral("*.e3c")}, QDir::Files);
     QVERIFY2(!names.isEmpty(), "the sample game is missing");
-    const QString out = m_game.path(QStringLiteral("sample.png"));
+    const QString out = m_game.filePath(QStringLiteral("sample.png"));
     for (const QString &name : names) {
         const ChildResult result =
             runChild(builtProgram(QStringLiteral("cmped-cli")),

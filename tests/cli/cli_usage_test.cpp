@@ -1,6 +1,6 @@
 // The command line itself: options, exit status, and what is said about wrong words and missing
 // game files.
-#include "tests/cli/tiny_game.h"
+#include "tests/cli/cli_game.h"
 
 #include <QFile>
 #include <QtTest>
@@ -60,18 +60,19 @@ void CliUsageTest::wrongWordsEndWithStatusOne_data()
     row("region 0 0 0 1.5 o.png", "\"1.5\" is not a number.");
     row("region 1 0 0 0 o.png", "There is no campaign map 1.");
     row("region 4294967295 0 0 0 o.png", "There is no campaign map 4294967295.");
-    row("region 0 3 0 0 o.png", "Campaign map 0 has no region 3.");
-    row("region 0 2 3 0 o.png", "The state goes from 0 to 2, 3 is none.");
-    row("region 0 2 2 8 o.png", "Colours go from 0 to 7, 8 is none.");
+    row("region 24 3 0 0 o.png", "Campaign map 24 has no region 3.");
+    row("region 5 0 0 0 o.png", "Campaign map 5 has no region 0.");
+    row("region 24 2 3 0 o.png", "The state goes from 0 to 2, 3 is none.");
+    row("region 24 2 2 8 o.png", "Colours go from 0 to 7, 8 is none.");
 }
 
 void CliUsageTest::wrongWordsEndWithStatusOne()
 {
     QFETCH(QStringList, words);
     QFETCH(QByteArray, message);
-    const TinyGame game;
+    const CliGame game;
     auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("CMPED_GAME_DIR"), game.path(QString()));
+    environment.insert(QStringLiteral("CMPED_GAME_DIR"), game.path());
     const ChildResult result = runChild(program(), words, environment);
     QVERIFY(result.exitedNormally);
     QCOMPARE(result.error, message + tryHelp);
@@ -121,8 +122,8 @@ void CliUsageTest::missingGameFileEndsWithStatusTwo()
 {
     QFETCH(QString, file);
     QFETCH(QByteArray, message);
-    const TinyGame game;
-    QVERIFY(QFile::remove(game.path(file)));
+    const CliGame game;
+    QVERIFY(QFile::remove(game.filePath(file)));
     const ChildResult result = game.run({QStringLiteral("list")});
     QVERIFY(result.exitedNormally);
     QCOMPARE(result.error, message);
@@ -132,7 +133,7 @@ void CliUsageTest::missingGameFileEndsWithStatusTwo()
 
 void CliUsageTest::unknownGameEncodingEndsWithStatusTwo()
 {
-    const TinyGame game;
+    const CliGame game;
     game.write(QStringLiteral("Ravn_settings.ini"),
                "[Global Settings]\r\nLanguage=2\r\nRavn.dat Text Encoding=Klingon-8\r\n");
     const ChildResult result = game.run({QStringLiteral("tables")});
@@ -143,9 +144,9 @@ void CliUsageTest::unknownGameEncodingEndsWithStatusTwo()
 
 void CliUsageTest::gameFolderComesFromEnvironment()
 {
-    const TinyGame game;
+    const CliGame game;
     auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("CMPED_GAME_DIR"), game.path(QString()));
+    environment.insert(QStringLiteral("CMPED_GAME_DIR"), game.path());
     const ChildResult found = runChild(program(), {QStringLiteral("list")}, environment);
     QCOMPARE(found.exitCode, 0);
     environment.insert(QStringLiteral("CMPED_GAME_DIR"), QStringLiteral("/nowhere"));
@@ -157,7 +158,7 @@ void CliUsageTest::gameFolderComesFromEnvironment()
 
 void CliUsageTest::optionsBehindTheCommandAreItsArguments()
 {
-    const TinyGame game;
+    const CliGame game;
     const ChildResult result = game.run({QStringLiteral("dump"), QStringLiteral("--help")});
     QCOMPARE(result.exitCode, 2);
     QCOMPARE(result.error,

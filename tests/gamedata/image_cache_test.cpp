@@ -1,6 +1,6 @@
 #include "gamedata/image_cache.h"
 #include "tests/gamedata/game_files.h"
-#include "tests/gamedata/picture_records.h"
+#include "tests/support/picture_records.h"
 #include "tests/support/report_recorder.h"
 
 #include <QTest>

@@ -1,7 +1,7 @@
 #include "gamedata/limits.h"
 #include "gamedata/pcx_image.h"
 #include "tests/gamedata/game_files.h"
-#include "tests/gamedata/picture_records.h"
+#include "tests/support/picture_records.h"
 #include "tests/support/report_recorder.h"
 
 #include <QRandomGenerator>

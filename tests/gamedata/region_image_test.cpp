@@ -1,5 +1,5 @@
 #include "gamedata/region_image.h"
-#include "tests/gamedata/picture_records.h"
+#include "tests/support/picture_records.h"
 #include "tests/gamedata/region_masks.h"
 #include "tests/support/report_recorder.h"
 

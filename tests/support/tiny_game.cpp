@@ -6,6 +6,9 @@
 #include "gamedata/image_cache.h"
 #include "gamedata/ini_file.h"
 #include "tests/support/byte_writer.h"
+#include "tests/support/game_bytes.h"
+#include "tests/support/packing.h"
+#include "tests/support/picture_records.h"
 
 #include <QDir>
 #include <QFile>
@@ -15,25 +18,21 @@
 
 #include <array>
 #include <functional>
-#include <zlib.h>
 
 namespace tiny {
 
 namespace {
 
+using game_files::TableEntry;
+
 constexpr QSize mapSize{456, 600};
+constexpr int creatureCount = 186;
+constexpr int artifactCount = 160;
 constexpr int transparentIndex = 255;
 constexpr int glowValue = 128;
 constexpr int patternValue = 60;
 
 using Files = QMap<QByteArray, QByteArray>;
-
-void write(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("Cannot write %s", qPrintable(path));
-}
 
 QByteArray lines(const QByteArrayList &rows)
 {
@@ -63,19 +62,31 @@ QByteArray wide(const QByteArray &prefix, int count, int headerLines, int footer
     return lines(rows);
 }
 
-QByteArray backgroundPicture(const QColor &colour)
+// Every pixel of this colour.
+QByteArray evenPixels(const QSize &size, const QByteArray &pixel)
 {
-    const QByteArray pixel = QByteArray()
-                                 .append(char(colour.blue()))
-                                 .append(char(colour.green()))
-                                 .append(char(colour.red()));
-    const int count = mapSize.width() * mapSize.height();
+    return pixel.repeated(size.width() * size.height());
+}
+
+QByteArray bgr(const QColor &colour)
+{
     return ByteWriter()
-        .u32(quint32(3 * count))
-        .u32(quint32(mapSize.width()))
-        .u32(quint32(mapSize.height()))
-        .raw(pixel.repeated(count))
+        .u8(unsigned(colour.blue()))
+        .u8(unsigned(colour.green()))
+        .u8(unsigned(colour.red()))
         .bytes();
+}
+
+QByteArray backgroundPicture(const QSize &size, const QColor &colour)
+{
+    return picture_records::plainHeader(quint32(size.width()), quint32(size.height())) +
+           evenPixels(size, bgr(colour));
+}
+
+QByteArray widePicture(const QSize &size, const QColor &colour)
+{
+    return picture_records::p32Header(quint32(size.width()), quint32(size.height())) +
+           evenPixels(size, bgr(colour) + '\0');
 }
 
 // Index i is grey i, but for the last one, which is the transparent colour.
@@ -91,7 +102,7 @@ QByteArray palettePicture(const QSize &size, const QByteArray &palette,
                           const std::function<int(int, int)> &indexAt)
 {
     ByteWriter out;
-    out.u32(1).u32(quint32(size.width())).u32(quint32(size.height()));
+    out.raw(picture_records::plainHeader(quint32(size.width()), quint32(size.height())));
     for (int y = 0; y < size.height(); ++y) {
         for (int x = 0; x < size.width(); ++x)
             out.u8(unsigned(indexAt(x, y)));
@@ -145,7 +156,7 @@ void addTexts(Files &files, const QByteArray &title)
     files["PlColors.txt"] = numbered("Colour ", 8);
     files["CmpMusic.txt"] = numbered("Music ", 3);
     files["CmpMovie.txt"] = numbered("Movie ", 3);
-    files["BldgNeut.TXT"] = numbered("Neutral ", 16);
+    files["BldgNeut.TXT"] = numbered("Neutral ", 16).replace("\r\n", "\tx\r\n") + "foot";
     files["BldgSpec.txt"] = numbered("Special ", 81);
     files["Dwelling.txt"] = numbered("Dwelling ", 140);
     QByteArray texts = numbered("Text ", 60, "head");
@@ -154,26 +165,15 @@ void addTexts(Files &files, const QByteArray &title)
     files["CmpEdCmd.txt"] = numbered("Hint ", 25, "head");
 }
 
-void writeArchive(const QString &path, const Files &files)
+// Every other file is packed.
+QByteArray archiveOf(const Files &files)
 {
-    ByteWriter index;
-    index.raw(QByteArray("LOD\0", 4)).u32(200).u32(quint32(files.size())).zeros(80);
-    quint32 offset = 92 + 32 * quint32(files.size());
-    QByteArray data;
+    std::vector<game_files::ArchiveEntry> entries;
     for (auto file = files.begin(); file != files.end(); ++file) {
-        index.name16(file.key()).u32(offset + quint32(data.size()));
-        index.u32(quint32(file->size())).u32(0).u32(0);
-        data += *file;
+        const bool pack = entries.size() % 2 == 1;
+        entries.push_back({file.key(), *file, pack ? game_files::Packed : game_files::Raw});
     }
-    write(path, index.bytes() + data);
-}
-
-void addEntry(ByteWriter &out, const QByteArray &name, const QMap<int, QByteArray> &strings)
-{
-    out.text(name).text({}).u32(9);
-    for (int i = 0; i < 9; ++i)
-        out.text(strings.value(i));
-    out.u8(0).u32(0);
+    return game_files::archive(entries);
 }
 
 QByteArray homeLayout()
@@ -200,26 +200,34 @@ QByteArray keepsLayout()
     return lines(rows);
 }
 
+// Creatures and artifacts beyond those of the text tables, up to the last.
+void addLateNames(std::vector<TableEntry> &entries)
+{
+    for (int number = 150; number < creatureCount; ++number)
+        entries.push_back({"monst" + QByteArray::number(number), {{3, "Beast"}}});
+    entries.push_back({"art" + QByteArray::number(artifactCount - 1), {{1, "Caf\xe9"}}});
+}
+
 QByteArray tableFile()
 {
     const QByteArray torn = QByteArray("gone.pcx ").repeated(8).trimmed();
-    ByteWriter out;
-    out.raw("RDAT").u32(1).u32(7);
-    addEntry(out, "campmap3", {{0, "Two Keeps"}, {1, "backtwo.pcx"}, {8, keepsLayout()}});
-    addEntry(out, "campmap5", {{0, "Lost Sky"}, {1, "nosuch.pcx"}, {8, lines({"0", "0"})}});
-    addEntry(out, "campmap6",
-             {{0, "Torn Map"},
-              {1, "backtwo.pcx"},
-              {8, lines({"0", "1", "0 0", "Rift", torn, torn, torn})}});
-    addEntry(out, "campmap7",
-             {{0, "Blind Map"},
-              {1, "backtwo.pcx"},
-              {8, lines({"1", "1", "0 0", "Veil", "nog.pcx", "nob.pcx", "nof.pcx"})}});
-    addEntry(out, "campmap24", {{0, "Home Shores"}, {1, "backhome.pcx"}, {8, homeLayout()}});
-    addEntry(out, "campmap30",
-             {{0, "Hidden Realm"}, {1, "backtwo.pcx"}, {8, lines({"2", "1", "5 5", "Nook"})}});
-    addEntry(out, "cmpbackground1", {{8, "plainone.pcx\r\nplaintwo.pcx"}});
-    return out.bytes();
+    std::vector<TableEntry> entries{
+        {"campmap3", {{0, "Two Keeps"}, {1, "backtwo.pcx"}, {8, keepsLayout()}}},
+        {"campmap5", {{0, "Lost Sky"}, {1, "nosuch.pcx"}, {8, lines({"0", "0"})}}},
+        {"campmap6",
+         {{0, "Torn Map"},
+          {1, "backtwo.pcx"},
+          {8, lines({"0", "1", "0 0", "Rift", torn, torn, "gone.pcx"})}}},
+        {"campmap7",
+         {{0, "Blind Map"},
+          {1, "backtwo.pcx"},
+          {8, lines({"1", "1", "0 0", "Veil", "nog.pcx", "nob.pcx", "nof.pcx"})}}},
+        {"campmap24", {{0, "Home Shores"}, {1, "backhome.pcx"}, {8, homeLayout()}}},
+        {"campmap30", {{0, "Hidden Realm"}, {1, "backlarge.pcx"}, {8, lines({"2", "0"})}}},
+        {"cmpbackground1", {{8, "plainone.pcx\r\nplaintwo.pcx"}}},
+    };
+    addLateNames(entries);
+    return game_files::tableFile(entries);
 }
 
 QByteArray mapHeader()
@@ -239,7 +247,7 @@ QByteArray mapHeader()
 QByteArray campaignBytes(unsigned mapId, bool hasMap, int background,
                          const QVector<Scenario> &scenarios)
 {
-    const QByteArray map = gzip(mapHeader());
+    const QByteArray map = packing::gzip(mapHeader());
     ByteWriter out;
     out.u32(10).u32(1).u8(hasMap).i32(background).u32(hasMap ? 0 : quint32(scenarios.size()));
     out.u8(mapId + 1).text("A campaign").text({}).u8(0).u8(34);
@@ -248,11 +256,11 @@ QByteArray campaignBytes(unsigned mapId, bool hasMap, int background,
         out.text(scenario.map ? "a.e3m" : "").u32(scenario.map ? quint32(map.size()) : 0);
         out.zeros((scenarios.size() + 7) / 8).u8(scenario.colour).u8(1).text({});
         out.zeros(6); // prologues and epilogues
-        out.u8(15).zeros((150 + 7) / 8).zeros((147 + 7) / 8).u8(0);
+        out.u8(15).zeros((creatureCount + 7) / 8).zeros((artifactCount + 7) / 8).u8(0);
         if (scenario.map)
             maps += map;
     }
-    return gzip(out.bytes()) + maps;
+    return packing::gzip(out.bytes()) + maps;
 }
 
 } // namespace
@@ -269,12 +277,31 @@ Game::Game(const QByteArray &globalSettings, const QByteArray &title)
     addMasks(files, "r1", {40, 30}, 10);
     addMasks(files, "r2", {20, 20}, 5);
     for (const char *name : {"backhome.pcx", "backtwo.pcx", "plainone.pcx", "plaintwo.pcx"})
-        files[name] = backgroundPicture(backgroundColour(name));
+        files[name] = backgroundPicture(mapSize, backgroundColour(name));
+    files["backlarge.pcx"] = backgroundPicture(mapSize + QSize(4, 10), Qt::darkRed);
+    files["wide.pcx"] = widePicture({15, 10}, {9, 8, 7});
     files["cmpdash.pcx"] =
         palettePicture(mapSize, greyPalette(), [](int, int) { return patternValue; });
-    writeArchive(filePath("Data/E3bitmap.lod"), files);
-    write(filePath("ravn.dat"), tableFile());
-    write(filePath("Ravn_settings.ini"), "[Global Settings]\r\n" + globalSettings);
+    write("Data/E3bitmap.lod", archiveOf(files));
+    write("Data/Ravn_lng.lod",
+          game_files::archive({{"priskill.TXT", "Attack\r\nSense\r\n", game_files::Packed}}));
+    write("ravn.dat", tableFile());
+    write("Ravn_settings.ini", "[Global Settings]\r\n" + globalSettings);
+}
+
+QString Game::write(const QString &name, const QByteArray &bytes) const
+{
+    QString target = filePath(name);
+    QFile file(target);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("Cannot write %s", qPrintable(target));
+    return target;
+}
+
+QByteArray Game::read(const QString &name) const
+{
+    QFile file(filePath(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 void Game::load() const
@@ -289,9 +316,7 @@ void Game::load() const
 
 QString Game::addCampaign(const QString &name, const QByteArray &bytes) const
 {
-    QString target = filePath("Maps/" + name);
-    write(target, bytes);
-    return target;
+    return write("Maps/" + name, bytes);
 }
 
 QByteArray campaign(unsigned mapId, const QVector<Scenario> &scenarios)
@@ -302,22 +327,6 @@ QByteArray campaign(unsigned mapId, const QVector<Scenario> &scenarios)
 QByteArray campaignWithoutMap(int background, const QVector<Scenario> &scenarios)
 {
     return campaignBytes(24, false, background, scenarios);
-}
-
-QByteArray gzip(const QByteArray &bytes)
-{
-    z_stream stream{};
-    deflateInit2(&stream, Z_DEFAULT_COMPRESSION, Z_DEFLATED, 31, 8, Z_DEFAULT_STRATEGY);
-    QByteArray packed(int(deflateBound(&stream, uLong(bytes.size()))), '\0');
-    QByteArray source = bytes;
-    stream.next_in = reinterpret_cast<Bytef *>(source.data());
-    stream.avail_in = uInt(source.size());
-    stream.next_out = reinterpret_cast<Bytef *>(packed.data());
-    stream.avail_out = uInt(packed.size());
-    deflate(&stream, Z_FINISH);
-    packed.resize(int(stream.total_out));
-    deflateEnd(&stream);
-    return packed;
 }
 
 QColor backgroundColour(const QString &name)

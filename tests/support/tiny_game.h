@@ -11,10 +11,17 @@
 //         "Alder Bay"   at (20, 30), 40 by 30
 //         "Birch Hill"  at (40, 40), 40 by 30, its upper left 10 by 10 transparent
 //         "Cedar Fen"   at (200, 300), 20 by 20, its upper left 5 by 5 transparent
-//   30  "Hidden Realm": of a layout that new campaigns aren't offered
+//   30  "Hidden Realm": of a layout that new campaigns aren't offered, without regions; its
+//       background is 4 pixels wider and 10 higher than a map
 //
-// Backgrounds: 0 "plainone.pcx", 1 "plaintwo.pcx".
+// Backgrounds: 0 "plainone.pcx", 1 "plaintwo.pcx". Picture "wide.pcx" has 32 bits a pixel.
+//
+// Two archives: E3bitmap.lod, every other file of which is packed, and Ravn_lng.lod, which has
+// another PriSkill.txt. 186 creatures and 160 artifacts, the widths that the seed campaigns of the
+// fuzz targets are made for; so are three regions on map 24.
 #pragma once
+
+#include "tests/support/packing.h"
 
 #include <QByteArray>
 #include <QColor>
@@ -44,6 +51,10 @@ public:
     // Makes it the game of this process: root folder, settings, tables, image cache. Once only.
     void load() const;
 
+    // Writes a file below the folder and answers its path. The folder it goes into has to be there.
+    QString write(const QString &name, const QByteArray &bytes) const;
+    QByteArray read(const QString &name) const;
+
     // Writes a campaign file into the folder and answers its path.
     QString addCampaign(const QString &name, const QByteArray &bytes) const;
 
@@ -54,8 +65,7 @@ private:
 // A campaign of the newest version. Without a map, `background` says what is behind it.
 QByteArray campaign(unsigned mapId, const QVector<Scenario> &scenarios);
 QByteArray campaignWithoutMap(int background, const QVector<Scenario> &scenarios);
-// The bytes as one gzip member.
-QByteArray gzip(const QByteArray &bytes);
+using packing::gzip;
 
 // Colours of backgrounds, by their pictures' names.
 QColor backgroundColour(const QString &name);
