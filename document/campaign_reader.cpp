@@ -18,6 +18,7 @@
 //   records                            as many as the map has regions, or scenarioCount
 #include "document/campaign_data.h"
 #include "document/campaign_primitives.h"
+#include "document/campaign_records.h"
 #include "document/embedded_map.h"
 #include "document/gzip_member.h"
 #include "document/inflating_device.h"
@@ -58,20 +59,6 @@ QString wrongSubversion(quint32 subversion)
                                                           "File subversion = %1\n"
                                                           "Current subversion = %2"))
         .arg(QString::number(subversion), QString::number(newestSubversion));
-}
-
-qint64 bitsInBytes(unsigned int bits)
-{
-    return (qint64(bits) + 7) / 8;
-}
-
-// What a scenario's start options take in memory beyond their bytes in the file.
-qint64 bonusMemory(const ScenarioData &scenario)
-{
-    if (!scenario.startOptions || scenario.startOptions->optionType != 1)
-        return 0;
-    const auto set = scenario.startOptions->optionData.value<StartingBonusSet>();
-    return qint64(set.bonuses.size()) * limits::bonusBytes;
 }
 
 // Reads member 1 into a campaign. Every function answers the message of a failure, or nothing.
@@ -116,6 +103,9 @@ public:
         return packedAgain(length) + frameDifference;
     }
 
+    // The disk kept something back, and the next save would be without it.
+    bool readFailed() const { return m_readFailed || m_device.sourceFailed(); }
+
 private:
     std::optional<QString> readVersion()
     {
@@ -152,7 +142,7 @@ private:
     std::optional<QString> readRecords()
     {
         const unsigned int count = m_campaign.countOfScenarios();
-        const qint64 bits = bitsInBytes(count);
+        const qint64 bits = prerequisiteBytes(count);
         qint64 allowance = limits::campaignTextBytes - m_device.delivered();
         std::vector<ScenarioData> &scenarios = m_campaign.scenarios;
         bool exceeded = m_device.limitReached();
@@ -204,6 +194,7 @@ private:
         while (!device.atEnd())
             packed.add(part.data(),
                        int(std::max(qint64(0), device.read(part.data(), part.size()))));
+        m_readFailed = device.sourceFailed();
         return packed.finish();
     }
 
@@ -211,6 +202,7 @@ private:
     CampaignData &m_campaign;
     InflatingDevice m_device;
     QDataStream m_stream;
+    bool m_readFailed = false;
 };
 
 std::optional<QString> readAll(QFile &file, CampaignData &campaign)
@@ -218,12 +210,15 @@ std::optional<QString> readAll(QFile &file, CampaignData &campaign)
     HeaderReader header(file, campaign);
     if (auto failure = header.read())
         return failure;
+    if (header.readFailed())
+        return damaged();
     const bool anyMaps = std::any_of(campaign.scenarios.begin(), campaign.scenarios.end(),
                                      [](const ScenarioData &s) { return s.mapSize != 0; });
     if (!anyMaps)
         return {};
     const std::optional<qint64> mapsBegin = header.endInFile();
-    if (!mapsBegin || !readEmbeddedMaps(file, *mapsBegin, campaign.scenarios))
+    if (!mapsBegin || header.readFailed() ||
+        !readEmbeddedMaps(file, *mapsBegin, campaign.scenarios))
         return damaged();
     return {};
 }

@@ -107,6 +107,19 @@ unsigned int recordCount(const CampaignData &campaign)
     return campaign.hasMap ? count : std::min(count, limits::scenarios);
 }
 
+qint64 prerequisiteBytes(unsigned int scenarioCount)
+{
+    return (qint64(scenarioCount) + 7) / 8;
+}
+
+qint64 bonusMemory(const ScenarioData &scenario)
+{
+    if (!scenario.startOptions || scenario.startOptions->optionType != 1)
+        return 0;
+    const auto set = scenario.startOptions->optionData.value<StartingBonusSet>();
+    return qint64(set.bonuses.size()) * limits::bonusBytes;
+}
+
 QBitArray chainPrerequisites(const ScenarioData &scenario, int previous, unsigned int count)
 {
     QBitArray bits(int(count), false);

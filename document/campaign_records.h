@@ -15,6 +15,12 @@ struct RecordContext
 // How many records a campaign's file gets: as many as the reader will look for.
 unsigned int recordCount(const CampaignData &campaign);
 
+// What the prerequisites of one scenario take in the file.
+qint64 prerequisiteBytes(unsigned int scenarioCount);
+
+// What a scenario's bonuses take in memory beyond their bytes in the file.
+qint64 bonusMemory(const ScenarioData &scenario);
+
 void writeScenarioRecord(QDataStream &stream, ScenarioData &scenario, RecordContext context);
 
 // A campaign without a map is one chain through the scenarios that have a map: the prerequisites

@@ -39,7 +39,9 @@ qint64 readHeader(ScenarioData &scenario, qint64 bound)
 
 bool readEmbeddedMaps(QFile &file, qint64 offset, std::vector<ScenarioData> &scenarios)
 {
-    const qint64 fileSize = file.isSequential() ? 0 : file.size();
+    if (file.isSequential())
+        return false; // its bytes are gone once the header has been read
+    const qint64 fileSize = file.size();
     qint64 allowance = limits::mapHeaderBytes;
     for (ScenarioData &scenario : scenarios) {
         if (scenario.mapSize == 0)
@@ -48,13 +50,15 @@ bool readEmbeddedMaps(QFile &file, qint64 offset, std::vector<ScenarioData> &sce
         const qint64 size = std::clamp(fileSize - offset, qint64(0), promised);
         if (size > limits::mapBytes)
             return false;
-        if (size > 0 && file.seek(offset)) {
+        // A map that the disk doesn't give back mustn't look like one that was never there: the
+        // next save would make that true.
+        if (size > 0) {
             scenario.compressedMap = QByteArray(int(size), Qt::Uninitialized);
-            const qint64 got = file.read(scenario.compressedMap.data(), size);
-            scenario.compressedMap.truncate(int(std::max(qint64(0), got)));
+            if (!file.seek(offset) || file.read(scenario.compressedMap.data(), size) != size)
+                return false;
         }
         offset += promised;
-        scenario.mapSize = quint32(scenario.compressedMap.size());
+        scenario.mapSize = quint32(size);
         if (scenario.mapSize == 0)
             continue;
         allowance += limits::mapHeaderRatio * qint64(scenario.mapSize);

@@ -108,6 +108,7 @@ bool InflatingDevice::feed()
     if (kept > 0)
         std::memmove(m_input.get(), m_stream.next_in, kept);
     const qint64 got = m_source->read(m_input.get() + kept, inputSize - qint64(kept));
+    m_sourceFailed = m_sourceFailed || got < 0;
     if (got <= 0)
         return false;
     m_stream.next_in = reinterpret_cast<Bytef *>(m_input.get());

@@ -19,8 +19,9 @@ public:
         // of 16 KB in which the stream turns out corrupt nothing is delivered.
         GzipMember,  // ends with the first member
         GzipMembers, // goes on into the members behind it
-                     // One gzip member or zlib stream and nothing else, in smaller steps; what was
-                     // unpacked before a corrupt place is delivered.
+
+        // One gzip member or zlib stream and nothing else, in smaller steps; what was unpacked
+        // before a corrupt place is delivered.
         Embedded,
     };
 
@@ -37,6 +38,9 @@ public:
     // There is more, but the limit holds it back.
     bool limitReached() const { return hasData() && m_delivered >= m_limit; }
     qint64 delivered() const { return m_delivered; }
+
+    // The source couldn't be read to its end: what is missing isn't missing in the file.
+    bool sourceFailed() const { return m_sourceFailed; }
 
     // The source isn't packed at all.
     bool isPlain() const { return m_wasPlain; }
@@ -84,6 +88,7 @@ private:
     State m_state = State::Looking;
     bool m_inflaterMade = false;
     bool m_wasPlain = false;
+    bool m_sourceFailed = false;
     qint64 m_fed = 0; // bytes of the source given to the inflater
     qint64 m_unpacked = 0;
     qint64 m_delivered = 0;

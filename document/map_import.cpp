@@ -8,16 +8,20 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <optional>
+
 namespace {
 
-unsigned int readHeaderOf(QFile &packed, ScenarioData &scenario, bool check)
+// Nothing if the file can't be read; what it would give then isn't the map's header.
+std::optional<unsigned int> readHeaderOf(QFile &packed, ScenarioData &scenario, bool check)
 {
     packed.seek(0);
     InflatingDevice device(&packed, InflatingDevice::Format::GzipMembers);
     device.setLimit(limits::mapHeaderBytes);
     QDataStream stream(&device);
     stream.setByteOrder(QDataStream::LittleEndian);
-    return scenario.ReadMapHeader(stream, check);
+    const unsigned int answer = scenario.ReadMapHeader(stream, check);
+    return device.sourceFailed() ? std::nullopt : std::optional(answer);
 }
 
 bool unpacksToNothing(QFile &packed)
@@ -33,7 +37,8 @@ QByteArray readRest(QFile &file)
     if (file.isSequential() || size <= 0 || size > limits::mapBytes)
         return {};
     QByteArray bytes(int(size), Qt::Uninitialized);
-    bytes.truncate(int(qMax(qint64(0), file.read(bytes.data(), size))));
+    if (file.read(bytes.data(), size) != size)
+        return {}; // half a map is none
     return bytes;
 }
 
@@ -51,16 +56,16 @@ int ScenarioData::ReadMapFromFile(QFile *file)
         return 0;
     }
     ScenarioData imported;
-    if (readHeaderOf(packed, imported, true) == unsigned(-1)) {
+    const std::optional<unsigned int> players = readHeaderOf(packed, imported, true);
+    if (players == unsigned(-1)) {
         qDebug() << "Err2";
         return -1;
     }
     const QByteArray bytes = readRest(*file);
-    if (bytes.isEmpty()) {
+    if (!players || bytes.isEmpty() || !readHeaderOf(packed, imported, false)) {
         qDebug() << "Scenario Read Error";
         return 0;
     }
-    readHeaderOf(packed, imported, false);
     mapFileName = QFileInfo(*file).fileName();
     mapSize = quint32(bytes.size());
     compressedMap = bytes;
