@@ -3,8 +3,11 @@
 #include "document/campaign_primitives.h"
 #include "document/campaign_records.h"
 #include "document/gzip_member.h"
+#include "gamedata/limits.h"
 
 #include <QFile>
+
+#include <cerrno>
 
 namespace {
 
@@ -36,8 +39,19 @@ public:
         writeHead(stream);
         for (unsigned int i = 0; i < m_count; ++i)
             writeRecord(stream, i);
-        m_pieces.front() = packGzipMember(header);
-        return std::move(m_pieces);
+        m_textBytes += header.size() - qint64(m_count) * prerequisiteBytes(m_count);
+        if (stream.status() == QDataStream::Ok)
+            m_pieces.front() = packGzipMember(header);
+        return m_pieces;
+    }
+
+    // Why the pieces mustn't become a file, an error number of the system, or 0: the reader would
+    // refuse so much text, and without a header the maps are lost.
+    int fault() const
+    {
+        if (m_textBytes > limits::campaignTextBytes)
+            return EFBIG;
+        return m_pieces.front().isEmpty() ? ENOMEM : 0;
     }
 
 private:
@@ -63,6 +77,7 @@ private:
         if (scenario.mapHeader)
             m_previousWithMap = int(index);
         writeScenarioRecord(stream, scenario, context);
+        m_textBytes += bonusMemory(scenario);
         if (!map.isEmpty())
             m_pieces.push_back(map);
     }
@@ -70,6 +85,7 @@ private:
     CampaignData &m_campaign;
     const unsigned int m_count;
     int m_previousWithMap = -1;
+    qint64 m_textBytes = 0;                         // as the reader counts them
     std::vector<QByteArray> m_pieces{QByteArray()}; // the header's place
 };
 
@@ -82,7 +98,11 @@ std::vector<QByteArray> CampaignData::toPieces()
 
 SaveResult CampaignData::saveTo(const QString &path)
 {
-    return saveFileSafely(path, toPieces());
+    Writer writer(*this);
+    const std::vector<QByteArray> pieces = writer.pieces();
+    if (const int code = writer.fault())
+        return {false, qt_error_string(code)};
+    return saveFileSafely(path, pieces);
 }
 
 void CampaignData::WriteToFile(QFile *file)

@@ -1,12 +1,14 @@
 #include "document/campaign_data.h"
 
 #include "document/gzip_member.h"
+#include "gamedata/limits.h"
 #include "tests/document/samples.h"
 
 #include <QDataStream>
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <cerrno>
 #include <memory>
 
 class CampaignWriterTest : public QObject
@@ -33,6 +35,8 @@ private slots:
     void thirtyThousandScenariosSurvive();
     void writesSilentlyToTheFilesName();
     void savingTellsHowItWent();
+    void savesNoMoreTextThanCanBeReadAgain_data();
+    void savesNoMoreTextThanCanBeReadAgain();
 
 private:
     CampaignData readBack(const std::vector<QByteArray> &pieces);
@@ -366,6 +370,43 @@ void CampaignWriterTest::savingTellsHowItWent()
     const SaveResult failed = c.saveTo(m_folder.filePath("no/such/folder.e3c"));
     QVERIFY(!failed.ok);
     QVERIFY(!failed.error.isEmpty());
+}
+
+void CampaignWriterTest::savesNoMoreTextThanCanBeReadAgain_data()
+{
+    QTest::addColumn<bool>("hasMap");
+    QTest::addColumn<int>("bonuses");
+    QTest::newRow("with a map") << true << 0;
+    QTest::newRow("with bonuses") << true << 200;
+    QTest::newRow("without a map") << false << 0;
+}
+
+void CampaignWriterTest::savesNoMoreTextThanCanBeReadAgain()
+{
+    QFETCH(bool, hasMap);
+    QFETCH(int, bonuses);
+    CampaignData c;
+    c.initDummyCampaign(hasMap ? 4 : 24, hasMap, 0, 9);
+    const StartingBonusSet set{0, std::vector<CmpStartingBonus>(size_t(bonuses), {9, {}})};
+    if (bonuses > 0)
+        c.scenarios[3].startOptions = std::make_shared<CmpScenarioStartOptions>(
+            CmpScenarioStartOptions{1, QVariant::fromValue(set)});
+    const int others = unpacked(c.toPieces()[0]).size() - 9 * 2 + bonuses * 96;
+    QString text(int(limits::campaignTextBytes) - others, 'x');
+    c.scenarios[2].regionText = text.left(2000);
+    c.description = text.mid(2000);
+    const QString path = m_folder.filePath("much.e3c");
+    QVERIFY(c.saveTo(path).ok);
+    QFile file(path);
+    CampaignData back;
+    QVERIFY(!back.readCampaign(&file));
+    QCOMPARE(back.description, c.description);
+    const qint64 size = file.size();
+    c.description += 'y';
+    const SaveResult failed = c.saveTo(path);
+    QVERIFY(!failed.ok);
+    QCOMPARE(failed.error, qt_error_string(EFBIG));
+    QCOMPARE(file.size(), size); // the old file stands
 }
 
 QTEST_GUILESS_MAIN(CampaignWriterTest)
