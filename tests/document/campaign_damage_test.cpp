@@ -27,6 +27,8 @@ private slots:
     void aMapThatIsNoneHasAHeaderOfZeros();
     void theStatedSizeOfAMapIsBelievedUpToTheRatio();
     void nothingBeyondTheStatedSizeIsRead();
+    void aMapsHeaderIsReadUpToItsLimit();
+    void allHeadersOfACampaignShareAnAllowance();
     void aMapThatIsCutKeepsWhatIsThere();
     void aMapThatIsNotThereIsNone();
     void aMapAsLargeAsTheLimitIsHeld();
@@ -234,6 +236,38 @@ void CampaignDamageTest::nothingBeyondTheStatedSizeIsRead()
     QCOMPARE(c.scenarios[0].mapHeader->mapDescription, QString());
     QCOMPARE(c.scenarios[0].mapHeader->players[0].canHuman, quint8(0));
     QCOMPARE(c.scenarios[2].mapHeader->version, 0u);
+}
+
+// A map of a few kilobytes whose name goes on for longer than is believed.
+static QByteArray mapOfALongName()
+{
+    const QByteArray front = ByteWriter().u32(28).u8(1).i32(72).u8(0).u32(2147483647u).bytes();
+    return samples::packWithZeros(front, qint64(5) << 20);
+}
+
+void CampaignDamageTest::aMapsHeaderIsReadUpToItsLimit()
+{
+    constexpr int inFront = 4 + 1 + 4 + 1 + 4;
+    CampaignData c;
+    QVERIFY(!read(c, samples::campaign(10, mapOfALongName(), {})));
+    verifySound(c);
+    QCOMPARE(c.scenarios[0].mapHeader->mapName.size(), int(limits::mapHeaderBytes) - inFront);
+}
+
+// What the first map takes of it the last one doesn't get, but for a share of its own size.
+void CampaignDamageTest::allHeadersOfACampaignShareAnAllowance()
+{
+    const QByteArray first = mapOfALongName();
+    const QByteArray last = samples::pack(samples::mapHeader(28) + samples::noise(2000));
+    CampaignData c;
+    QVERIFY(!read(c, samples::campaign(10, first, last)));
+    verifySound(c);
+    QCOMPARE(c.scenarios[2].mapHeader->mapName, QString("Frostmere")); // 8 times its size is much
+    QVERIFY(!read(c, samples::campaign(10, first, first)));
+    verifySound(c);
+    constexpr int inFront = 4 + 1 + 4 + 1 + 4;
+    QCOMPARE(qint64(c.scenarios[2].mapHeader->mapName.size()),
+             2 * limits::mapHeaderRatio * first.size() - inFront);
 }
 
 void CampaignDamageTest::aMapThatIsCutKeepsWhatIsThere()

@@ -121,6 +121,11 @@ void CampaignDataTest::aNewCampaignHasItsDefaults()
     QCOMPARE(campaign.description, QString());
     QCOMPARE(campaign.customValue, 0);
     QCOMPARE(campaign.scenarioCount, 0u);
+    QCOMPARE(campaign.version, 0u);
+    QCOMPARE(campaign.mapId, quint8(0));
+    QVERIFY(!campaign.difficultySelectable);
+    QCOMPARE(campaign.musicId, quint8(0));
+    QCOMPARE(campaign.spareCounter, 0);
 }
 
 void CampaignDataTest::clearingACampaignKeepsItsHead()
@@ -195,6 +200,8 @@ void CampaignDataTest::countsScenariosByTheMapOrByTheNumber()
     campaign.mapId = 3;
     campaign.scenarioCount = 8;
     QCOMPARE(campaign.countOfScenarios(), 3u);
+    EditorData::campaignInfo[3].regionCount = -1;
+    QCOMPARE(campaign.countOfScenarios(), 0u);
     campaign.hasMap = false;
     QCOMPARE(campaign.countOfScenarios(), 8u);
 }

@@ -19,6 +19,7 @@ private slots:
     void readsTheMapsBehindTheHeader_data();
     void readsTheMapsBehindTheHeader();
     void subversionZeroIsReadAlike();
+    void anyByteButZeroLetsTheDifficultyBeChosen();
     void readsACampaignWithoutAMap();
     void aCampaignWithoutAMapIsACampaignOnTheTable();
     void theMapsNumberIsStoredPlusOne_data();
@@ -29,6 +30,8 @@ private slots:
     void anOldFileResetsTheNewFields();
     void failuresAreTold_data();
     void failuresAreTold();
+    void theWaitCursorIsGoneWhenTheMessageComes_data();
+    void theWaitCursorIsGoneWhenTheMessageComes();
     void aFileThatCannotBeOpenedIsTold();
     void aPercentInTheNameStays();
     void aFailureLeavesTheOtherFields();
@@ -153,6 +156,17 @@ void CampaignReaderTest::subversionZeroIsReadAlike()
     QVERIFY(!read(c, samples::pack(samples::head(head))));
     QCOMPARE(c.name, QString("Zero"));
     QCOMPARE(c.scenarios.size(), size_t(3));
+}
+
+void CampaignReaderTest::anyByteButZeroLetsTheDifficultyBeChosen()
+{
+    for (const unsigned byte : {0u, 1u, 2u, 255u}) {
+        samples::Head head;
+        head.difficultySelectable = byte;
+        CampaignData c;
+        QVERIFY(!read(c, samples::pack(samples::head(head))));
+        QCOMPARE(c.difficultySelectable, byte != 0);
+    }
 }
 
 void CampaignReaderTest::readsACampaignWithoutAMap()
@@ -317,6 +331,33 @@ void CampaignReaderTest::failuresAreTold()
     QCOMPARE(c.scenarioCount, 0u);
     QCOMPARE(EditorData::info.campaign, 4u); // the document in work stays
     QCOMPARE(EditorData::info.region, 2u);
+}
+
+void CampaignReaderTest::theWaitCursorIsGoneWhenTheMessageComes_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("not there") << m_folder.filePath("gone.e3c");
+    QTest::newRow("empty") << samples::writeFile(m_folder.filePath("empty.e3c"), {});
+}
+
+void CampaignReaderTest::theWaitCursorIsGoneWhenTheMessageComes()
+{
+    QFETCH(QString, path);
+    int messages = 0;
+    bool waiting = false;
+    const Reporter before = setReporter({[&](const QString &, const QString &) {
+                                             ++messages;
+                                             waiting = QGuiApplication::overrideCursor() != nullptr;
+                                         },
+                                         [](int) {}});
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    QFile file(path);
+    CampaignData c;
+    const bool read = c.ReadFromFile(&file);
+    setReporter(before);
+    QVERIFY(!read);
+    QCOMPARE(messages, 1);
+    QVERIFY(!waiting);
 }
 
 void CampaignReaderTest::aFileThatCannotBeOpenedIsTold()

@@ -222,7 +222,12 @@ static QByteArray upToVictory(quint32 version)
 
 static QByteArray behindLoss(quint32 version)
 {
-    return ByteWriter().u8(0).zeros(version > 14 ? 20 + 4 + 1 : 16).zeros(31).bytes();
+    return ByteWriter()
+        .u8(0)
+        .zeros(version == 14 ? 16 : 20)
+        .zeros(version > 14 ? 4 + 1 : 0)
+        .zeros(31)
+        .bytes();
 }
 
 void MapHeaderTest::victoryHasThePayloadOfItsType_data()
@@ -237,6 +242,7 @@ void MapHeaderTest::victoryHasThePayloadOfItsType_data()
             << version << type << payload << fields;
     };
     const QByteArray amount("\5\6\0\0", 4);
+    row(13, 0, "\7\1", {0x107, 0, 0, 0, 0, 0, 0}); // only 14 itself has a single byte
     row(14, 0, "\7", {7, 0, 0, 0, 0, 0, 0});
     row(28, 0, "\7\1", {0x107, 0, 0, 0, 0, 0, 0});
     row(14, 1, "\7" + amount, {7, 0, 0, 0x605, 0, 0, 0});
