@@ -1,5 +1,6 @@
 // cmped-cli: the editor's readers and writers for scripts.
 #include "cli/commands.h"
+#include "cli/standard_output.h"
 #include "gamedata/game_dir.h"
 #include "gamedata/locale_codec.h"
 #include "gamedata/report.h"
@@ -9,7 +10,6 @@
 #include <QLoggingCategory>
 
 #include <csignal>
-#include <cstdio>
 #include <cstdlib>
 
 namespace {
@@ -57,8 +57,9 @@ QString describe(const Options &options)
 
 ExitStatus print(const QString &text)
 {
-    std::fputs(text.toLocal8Bit().constData(), stdout);
-    return std::fflush(stdout) == 0 ? exitDone : exitFailed;
+    StandardOutput output;
+    output.write(text.toLocal8Bit());
+    return output.finish();
 }
 
 ExitStatus runCommand(const QStringList &words)

@@ -34,7 +34,7 @@ unsigned stateOf(const CampaignData &campaign, unsigned region)
     if (region == 0)
         return regionSelected;
     const bool hasScenario =
-        region < campaign.scenarios.size() && campaign.scenarios[region].mapSize != 0;
+        region < campaign.scenarios.size() && campaign.scenarios[region].mapHeader != nullptr;
     return hasScenario ? regionUnselected : regionUnused;
 }
 

@@ -21,6 +21,15 @@ std::vector<File> pictures();
 std::vector<File> settings();
 std::vector<File> tableFiles();
 
+struct Target
+{
+    const char *name; // of its folder under corpus/
+    std::vector<File> seeds;
+};
+
+// All of them.
+std::vector<Target> targets();
+
 // The header of a map in a version's layout, with a hero in every list it has.
 QByteArray mapHeader(quint32 version, quint32 subVersion = 0);
 

@@ -38,12 +38,7 @@ int main(int argc, char *argv[])
         return 1;
     }
     const QDir root(QString::fromLocal8Bit(argv[1]));
-    writeFiles(root, QStringLiteral("archive"), corpus::archives());
-    writeFiles(root, QStringLiteral("campaign"), corpus::campaigns());
-    writeFiles(root, QStringLiteral("layout"), corpus::layouts());
-    writeFiles(root, QStringLiteral("map_header"), corpus::maps());
-    writeFiles(root, QStringLiteral("pcx"), corpus::pictures());
-    writeFiles(root, QStringLiteral("settings"), corpus::settings());
-    writeFiles(root, QStringLiteral("table_file"), corpus::tableFiles());
+    for (const auto &[name, seeds] : corpus::targets())
+        writeFiles(root, QLatin1String(name), seeds);
     return 0;
 }

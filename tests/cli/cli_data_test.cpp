@@ -269,12 +269,13 @@ void CliDataTest::extractTellsWhatIsWrong()
 
 void CliDataTest::fullStandardOutputEndsWithStatusTwo()
 {
-    for (const char *command : {"tables", "list"}) {
-        const ChildResult result =
-            runChild(QStringLiteral("/bin/sh"),
-                     {QStringLiteral("-c"),
-                      QStringLiteral("exec \"$0\" --game \"$1\" %1 >/dev/full").arg(command),
-                      builtProgram(QStringLiteral("cmped-cli")), m_game.path()});
+    m_game.write(QStringLiteral("a.e3c"), seedCampaign("version_10"));
+    for (const char *command : {"tables", "list", "dump a.e3c", "--help", "--version"}) {
+        const ChildResult result = runChild(
+            QStringLiteral("/bin/sh"),
+            {QStringLiteral("-c"),
+             QStringLiteral("cd \"$1\" && exec \"$0\" --game . %1 >/dev/full").arg(command),
+             builtProgram(QStringLiteral("cmped-cli")), m_game.path()});
         QCOMPARE(result.error,
                  QByteArray("Error: Cannot write file standard output:\nNo space left "
                             "on device.\n"));

@@ -15,6 +15,8 @@ class CliHostileTest : public QObject
 private slots:
     void campaignIsReadSoonAndInLittleMemory_data();
     void campaignIsReadSoonAndInLittleMemory();
+    void absurdCountsHaveTheirAnswer_data();
+    void absurdCountsHaveTheirAnswer();
     void tableFileIsReadSoonAndInLittleMemory_data();
     void tableFileIsReadSoonAndInLittleMemory();
     void archiveIsReadSoonAndInLittleMemory_data();
@@ -27,6 +29,8 @@ private:
     void check(const CliGame &game, const QStringList &words);
 
     CliGame m_game;
+    CliGame m_tableGame;
+    CliGame m_archiveGame;
 };
 
 namespace {
@@ -70,13 +74,18 @@ QByteArray nameBomb(quint32 length)
     return packing::gzipWithZeros(head(0).u32(length).bytes(), bombBytes);
 }
 
-// A scenario whose map is a bomb: its header, or what is behind it.
-QByteArray mapBomb(const QByteArray &start)
+// One scenario with this map.
+QByteArray campaignWithMap(const QByteArray &map)
 {
-    const QByteArray map = packing::gzipWithZeros(start, bombBytes);
     ByteWriter file = head(1).u32(0).u32(0).zeros(2);
     file.text("bomb.e3m").u32(quint32(map.size())).zeros(1 + 2 + 4 + 6 + 1 + 24 + 20 + 1);
     return packing::gzip(file.bytes()) + map;
+}
+
+// A scenario whose map is a bomb: its header, or what is behind it.
+QByteArray mapBomb(const QByteArray &start)
+{
+    return campaignWithMap(packing::gzipWithZeros(start, bombBytes));
 }
 
 QByteArray mapStart()
@@ -121,6 +130,36 @@ void CliHostileTest::campaignIsReadSoonAndInLittleMemory()
     check(m_game, {QStringLiteral("resave"), file, out});
 }
 
+void CliHostileTest::absurdCountsHaveTheirAnswer_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QByteArray>("message");
+    QTest::addColumn<QByteArray>("told"); // some of the dump
+    const QByteArray longName = mapStart() + ByteWriter().u32(0x7fffffff).raw("Ash").bytes();
+    QTest::newRow("map name of 2^31-1 bytes") << campaignWithMap(packing::gzip(longName))
+                                              << QByteArray() << QByteArray(R"("mapName": "Ash",)");
+    QTest::newRow("2^32-1 reserved heroes")
+        << campaignWithMap(packing::gzip(mapWithPlaceholders(0xffffffff) + "\3\4")) << QByteArray()
+        << QByteArray("\"placeholders\": [\n              3,\n              4\n            ],");
+    QTest::newRow("2^32-1 scenarios")
+        << packing::gzip(head(0xffffffff).zeros(1000).bytes())
+        << QByteArray("Error: Incorrect or damaged file.\n") << QByteArray();
+}
+
+void CliHostileTest::absurdCountsHaveTheirAnswer()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QByteArray, message);
+    QFETCH(QByteArray, told);
+    const QString file = m_game.write(QStringLiteral("absurd.e3c"), content);
+    check(m_game, {QStringLiteral("dump"), file});
+    const ChildResult result = m_game.run({QStringLiteral("dump"), file});
+    QCOMPARE(result.error, message);
+    QCOMPARE(result.exitCode, message.isEmpty() ? 0 : 2);
+    QCOMPARE(result.output.isEmpty(), !message.isEmpty());
+    QVERIFY2(result.output.contains(told), result.output.constData());
+}
+
 void CliHostileTest::tableFileIsReadSoonAndInLittleMemory_data()
 {
     QTest::addColumn<QByteArray>("content");
@@ -131,9 +170,8 @@ void CliHostileTest::tableFileIsReadSoonAndInLittleMemory_data()
 void CliHostileTest::tableFileIsReadSoonAndInLittleMemory()
 {
     QFETCH(QByteArray, content);
-    const CliGame game;
-    game.write(QStringLiteral("ravn.dat"), content);
-    check(game, {QStringLiteral("tables")});
+    m_tableGame.write(QStringLiteral("ravn.dat"), content);
+    check(m_tableGame, {QStringLiteral("tables")});
 }
 
 void CliHostileTest::archiveIsReadSoonAndInLittleMemory_data()
@@ -146,11 +184,10 @@ void CliHostileTest::archiveIsReadSoonAndInLittleMemory_data()
 void CliHostileTest::archiveIsReadSoonAndInLittleMemory()
 {
     QFETCH(QByteArray, content);
-    const CliGame game;
-    game.write(QStringLiteral("Data/Ravn_l_ext.lod"), content);
-    const QString out = game.filePath(QStringLiteral("out"));
-    check(game, {QStringLiteral("list")});
-    check(game, {QStringLiteral("extract"), QStringLiteral("hello.txt"), out});
+    m_archiveGame.write(QStringLiteral("Data/Ravn_l_ext.lod"), content);
+    const QString out = m_archiveGame.filePath(QStringLiteral("out"));
+    check(m_archiveGame, {QStringLiteral("list")});
+    check(m_archiveGame, {QStringLiteral("extract"), QStringLiteral("hello.txt"), out});
 }
 
 void CliHostileTest::largestCampaignIsDumpedWithoutASecondCopy()

@@ -27,6 +27,7 @@ private slots:
     void regionTellsWhatIsMissing_data();
     void regionTellsWhatIsMissing();
     void sampleCampaignsAreDrawn();
+    void noDisplayIsNeeded();
 
 private:
     CliGame m_game;
@@ -227,6 +228,24 @@ void CliPictureTest::sampleCampaignsAreDrawn()
                      {QStringLiteral("--game"), sampleGame(), render, maps.filePath(name), out});
         QVERIFY2(result.exitCode == 0, result.error + qPrintable(name));
         QCOMPARE(QImage(out).size(), QSize(456, 600));
+    }
+}
+
+void CliPictureTest::noDisplayIsNeeded()
+{
+    auto environment = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "HOME"})
+        environment.remove(QLatin1String(name));
+    const QString file = m_game.write(QStringLiteral("a.e3c"), seedCampaign("version_10"));
+    const QString out = m_game.filePath(QStringLiteral("display.png"));
+    for (const QStringList &words :
+         {QStringList{render, file, out}, QStringList{"region", "24", "0", "0", "0", out},
+          QStringList{"extract", "wide.pcx", out}}) {
+        QFile::remove(out);
+        const ChildResult result = m_game.run(words, environment);
+        QCOMPARE(result.error, QByteArray());
+        QCOMPARE(result.exitCode, 0);
+        QVERIFY(!QImage(out).isNull());
     }
 }
 

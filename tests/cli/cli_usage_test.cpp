@@ -19,6 +19,9 @@ private slots:
     void unknownGameEncodingEndsWithStatusTwo();
     void gameFolderComesFromEnvironment();
     void optionsBehindTheCommandAreItsArguments();
+
+private:
+    CliGame m_game;
 };
 
 namespace {
@@ -70,9 +73,8 @@ void CliUsageTest::wrongWordsEndWithStatusOne()
 {
     QFETCH(QStringList, words);
     QFETCH(QByteArray, message);
-    const CliGame game;
     auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("CMPED_GAME_DIR"), game.path());
+    environment.insert(QStringLiteral("CMPED_GAME_DIR"), m_game.path());
     const ChildResult result = runChild(program(), words, environment);
     QVERIFY(result.exitedNormally);
     QCOMPARE(result.error, message + tryHelp);
