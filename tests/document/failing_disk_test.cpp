@@ -49,7 +49,7 @@ private slots:
 private:
     QString write(const QByteArray &bytes)
     {
-        const QString path = samples::writeFile(m_folder.filePath("file"), bytes);
+        QString path = samples::writeFile(m_folder.filePath("file"), bytes);
         struct stat status = {};
         stat(QFile::encodeName(path).constData(), &status);
         watched = status.st_ino;
