@@ -2,6 +2,7 @@
 // stays whole if the new one can't be written.
 #include "tests/cli/cli_game.h"
 #include "tests/support/byte_writer.h"
+#include "tests/support/file_contents.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -41,12 +42,6 @@ ChildResult runOn(const QString &game, const QStringList &words)
                     QStringList{QStringLiteral("--game"), game} + words);
 }
 
-QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 // The dump of a campaign if its file had been of the newest version; what tells the version stands
 // two levels deep, the versions of maps deeper.
 QByteArray asNewest(QByteArray dumped)
@@ -60,8 +55,9 @@ QByteArray asNewest(QByteArray dumped)
 int bytesOfMaps(const QByteArray &dumped)
 {
     const QJsonObject campaign = QJsonDocument::fromJson(dumped).object()["campaign"].toObject();
+    const QJsonArray scenarios = campaign["scenarios"].toArray();
     int size = 0;
-    for (const QJsonValue &scenario : campaign["scenarios"].toArray())
+    for (const QJsonValue &scenario : scenarios)
         size += scenario.toObject()["mapSize"].toInt();
     return size;
 }

@@ -1,6 +1,7 @@
 // The programs where their users have them: installed into the game's folder, which they find by
 // themselves, wherever they are called from.
 #include "tests/support/child_process.h"
+#include "tests/support/file_contents.h"
 
 #include <QDir>
 #include <QFile>
@@ -31,12 +32,6 @@ private:
 };
 
 namespace {
-
-QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 // Nothing that tells where the game or the build is.
 QProcessEnvironment usersEnvironment()

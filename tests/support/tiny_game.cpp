@@ -6,6 +6,7 @@
 #include "gamedata/image_cache.h"
 #include "gamedata/ini_file.h"
 #include "tests/support/byte_writer.h"
+#include "tests/support/file_contents.h"
 #include "tests/support/game_bytes.h"
 #include "tests/support/packing.h"
 #include "tests/support/picture_records.h"
@@ -300,8 +301,7 @@ QString Game::write(const QString &name, const QByteArray &bytes) const
 
 QByteArray Game::read(const QString &name) const
 {
-    QFile file(filePath(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return contents(filePath(name));
 }
 
 void Game::load() const
