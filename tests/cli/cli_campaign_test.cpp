@@ -1,6 +1,7 @@
 // What dump tells of a campaign file, and which files the commands on one refuse.
 #include "fuzz/corpus.h"
 #include "tests/cli/cli_game.h"
+#include "tests/document/samples.h"
 #include "tests/support/byte_writer.h"
 #include "tests/support/packing.h"
 
@@ -21,6 +22,9 @@ private slots:
     void dumpTellsAScenario();
     void dumpTellsEveryKindOfBonus();
     void dumpTellsAMap();
+    void dumpTellsEveryFieldOfAMapByItsName();
+    void dumpTellsHowAMapEnds_data();
+    void dumpTellsHowAMapEnds();
     void dumpKeepsToTheEncoding_data();
     void dumpKeepsToTheEncoding();
     void dumpStandsHalfSurrogates();
@@ -46,6 +50,16 @@ QJsonObject parsed(const char *text)
 QJsonObject scenarioOf(const QJsonObject &dumped, int index)
 {
     return dumped["campaign"].toObject()["scenarios"].toArray().at(index).toObject();
+}
+
+// One scenario with this map.
+QByteArray campaignWithMap(const QByteArray &header)
+{
+    const QByteArray map = packing::gzip(header);
+    ByteWriter file;
+    file.u32(10).u32(1).u8(0).u32(0).u32(1).u8(25).u32(0).u32(0).zeros(2);
+    file.text("a.e3m").u32(quint32(map.size())).zeros(1 + 2 + 4 + 6 + 1 + 24 + 20 + 1);
+    return packing::gzip(file.bytes()) + map;
 }
 
 QByteArray campaignNamed(const QByteArray &name)
@@ -189,6 +203,78 @@ void CliCampaignTest::dumpTellsAMap()
         "mainHeroPortrait": 5, "mainHeroName": "Orsa", "placeholderCount": 0,
         "heroInfo": [{"heroId": 12, "name": "Orsa"}]})");
     QCOMPARE(players.at(0).toObject(), first);
+}
+
+// No two fields of this map's first player, and none of its extension, hold the same.
+void CliCampaignTest::dumpTellsEveryFieldOfAMapByItsName()
+{
+    const QString file =
+        m_game.write(QStringLiteral("b.e3c"), campaignWithMap(samples::mapHeader(32, 7)));
+    const QJsonObject header = scenarioOf(dump(file), 0)["mapHeader"].toObject();
+    const QJsonObject extension{{"subVersion", 7},  {"extFlagA", 12},    {"extFlagB", 11},
+                                {"extValueA", -13}, {"extValueB", 14},   {"extFlagC", 15},
+                                {"extFlagD", 16},   {"difficulty", 3},   {"levelLimit", 40},
+                                {"anyPlayers", 1},  {"mapDimension", 72}};
+    for (const QString &name : extension.keys())
+        QCOMPARE(header[name], extension[name]);
+    const QJsonObject player = parsed(R"({
+        "canHuman": 1, "canComputer": 2, "behaviour": 3, "allowedTownsLow": 4,
+        "allowedTowns": 4608, "townIsRandom": 5, "hasMainTown": 1, "generatesHero": 1,
+        "mainTownType": 6, "mainTownPosition": [21, 22, 1], "randomHero": 6, "mainHeroId": 33,
+        "mainHeroPortrait": 34, "mainHeroName": "Orla", "placeholderCount": 7,
+        "heroInfo": [{"heroId": 41, "name": "Tamsin"}, {"heroId": 42, "name": ""}]})");
+    QCOMPARE(header["players"].toArray().at(0).toObject(), player);
+    QCOMPARE(header["teams"].toArray(), (QJsonArray{1, 2, 1, 2, 1, 2, 1, 2}));
+    const QJsonArray custom = header["headerHeroes"].toObject()["customHeroes"].toArray();
+    QCOMPARE(
+        custom.at(0).toObject(),
+        (QJsonObject{{"heroId", 50}, {"portrait", 51}, {"name", "Brannoc"}, {"playerMask", 52}}));
+}
+
+void CliCampaignTest::dumpTellsHowAMapEnds_data()
+{
+    QTest::addColumn<QByteArray>("stored");
+    QTest::addColumn<QByteArray>("victory");
+    QTest::addColumn<QByteArray>("loss");
+    QTest::newRow("a building, a town lost")
+        << ByteWriter()
+               .u8(3)
+               .u8(5)
+               .u8(6)
+               .u8(21)
+               .u8(22)
+               .u8(1)
+               .u8(23)
+               .u8(24)
+               .u8(1)
+               .u8(31)
+               .u8(32)
+               .u8(0)
+               .bytes()
+        << QByteArray(R"({"type": 3, "flags": [5, 6], "object": 0, "kind": 23, "extra": 24,
+                          "amount": 0, "position": [21, 22, 1]})")
+        << QByteArray(R"({"type": 1, "position": [31, 32, 0], "days": 0})");
+    QTest::newRow("creatures, time")
+        << ByteWriter().u8(1).u8(5).u8(6).u16(515).u32(400).u8(2).u16(90).bytes()
+        << QByteArray(R"({"type": 1, "flags": [5, 6], "object": 515, "kind": 0, "extra": 0,
+                          "amount": 400, "position": [0, 0, 0]})")
+        << QByteArray(R"({"type": 2, "position": [0, 0, 0], "days": 90})");
+}
+
+void CliCampaignTest::dumpTellsHowAMapEnds()
+{
+    QFETCH(QByteArray, stored);
+    QFETCH(QByteArray, victory);
+    QFETCH(QByteArray, loss);
+    QByteArray map = corpus::mapHeader(28);
+    const QByteArray usual = ByteWriter().u8(12).u8(1).u8(0).u32(30).u8(2).u16(90).bytes();
+    QCOMPARE(map.count(usual), 1);
+    map.replace(usual, stored);
+    const QString file = m_game.write(QStringLiteral("b.e3c"), campaignWithMap(map));
+    const QJsonObject header = scenarioOf(dump(file), 0)["mapHeader"].toObject();
+    QCOMPARE(header["victory"].toObject(), parsed(victory));
+    QCOMPARE(header["loss"].toObject(), parsed(loss));
+    QCOMPARE(header["teamCount"].toInt(), 2); // what stands behind is in its place
 }
 
 void CliCampaignTest::dumpKeepsToTheEncoding_data()
