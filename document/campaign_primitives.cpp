@@ -1,28 +1,15 @@
 #include "document/campaign_primitives.h"
 
+#include "document/text_bytes.h"
 #include "gamedata/limits.h"
-
-#include <QTextCodec>
 
 #include <algorithm>
 #include <climits>
 
 namespace {
 
-constexpr int utf8Mib = 106;
 constexpr int firstStep = 64 * 1024;
 constexpr int mostBytes = INT_MAX - 64; // a QByteArray keeps its own head in the same int
-
-// The codec takes a byte order mark in front for a signature and drops it. Texts have none, so
-// those bytes are text, and must be there when it is written again.
-QString decode(const QByteArray &bytes)
-{
-    const QTextCodec *codec = QTextCodec::codecForLocale();
-    QString text = codec->toUnicode(bytes.constData(), bytes.size());
-    if (codec->mibEnum() == utf8Mib && bytes.startsWith("\xEF\xBB\xBF"))
-        text.prepend(QChar(QChar::ByteOrderMark));
-    return text;
-}
 
 } // namespace
 
@@ -47,7 +34,7 @@ QByteArray readBytes(QDataStream &stream, quint32 count)
 
 void ReadHString4(QDataStream &stream, QString &text)
 {
-    text = decode(readBytes(stream, readNumber<quint32>(stream)));
+    text = textFromBytes(readBytes(stream, readNumber<quint32>(stream)));
 }
 
 void WriteHString4(QDataStream &stream, QString &text)
@@ -56,7 +43,7 @@ void WriteHString4(QDataStream &stream, QString &text)
         stream << quint32(0);
         return;
     }
-    const QByteArray bytes = QTextCodec::codecForLocale()->fromUnicode(text);
+    const QByteArray bytes = bytesFromText(text);
     stream << quint32(bytes.size());
     stream.writeRawData(bytes.constData(), bytes.size());
 }
