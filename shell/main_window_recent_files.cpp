@@ -19,6 +19,12 @@ QString organization()
     return QStringLiteral("cmped_info");
 }
 
+// A text as a menu shows it: a single "&" would underline the letter behind it.
+QString forMenu(QString text)
+{
+    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
 } // namespace
 
 void MainWindow::setCurrentFile(const QString &path)
@@ -49,7 +55,8 @@ void MainWindow::updateRecentFileActions()
         action->setVisible(i < count);
         if (i >= count)
             continue;
-        action->setText(tr("&%1 %2").arg(QString::number(i + 1), strippedName(files[i])));
+        const QString name = forMenu(strippedName(files[i]));
+        action->setText(tr("&%1 %2").arg(QString::number(i + 1), name));
         action->setData(files[i]);
     }
 }

@@ -1,6 +1,7 @@
 #include "gamedata/safe_save.h"
 
 #include "tests/gamedata/safe_save_support.h"
+#include "tests/support/disk_faults.h"
 
 #include <QtTest>
 
@@ -10,8 +11,6 @@
 #include <random>
 
 #include <dlfcn.h>
-#include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -66,58 +65,6 @@ CALLED_BY_QT int ftruncate64(int handle, off64_t size) noexcept
 }
 
 namespace {
-
-// No file of this process grows past so many bytes while this lives; a write past it fails.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit now = {bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &now);
-    }
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    FileSizeLimit(const FileSizeLimit &) = delete;
-    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
-
-private:
-    rlimit m_before = {};
-    void (*m_handler)(int) = nullptr;
-};
-
-// A disk of its own, unmounted at the end.
-class SmallDisk
-{
-public:
-    explicit SmallDisk(int kilobytes)
-    {
-        const QByteArray options = "size=" + QByteArray::number(kilobytes) + "k";
-        m_mounted = mount("tmpfs", place().constData(), "tmpfs", 0, options.constData()) == 0;
-    }
-    ~SmallDisk()
-    {
-        if (m_mounted)
-            umount(place().constData());
-    }
-    SmallDisk(const SmallDisk &) = delete;
-    SmallDisk &operator=(const SmallDisk &) = delete;
-
-    bool isMounted() const { return m_mounted; }
-    QString path(const QString &name) const { return m_dir.filePath(name); }
-    QString folder() const { return m_dir.path(); }
-
-private:
-    QByteArray place() const { return QFile::encodeName(m_dir.path()); }
-
-    QTemporaryDir m_dir;
-    bool m_mounted = false;
-};
 
 const QString shortName = QStringLiteral("file");
 

@@ -1,21 +1,14 @@
-// New, open, recent files, save, and what is asked about unsaved changes.
+// Open, save, and what is asked about unsaved changes.
 #include "tests/shell/window_fixture.h"
+#include "tests/support/disk_faults.h"
+#include "tests/support/file_contents.h"
 
 #include <QCloseEvent>
-#include <QDialogButtonBox>
-#include <QListWidget>
 #include <QPushButton>
-#include <QRadioButton>
 
 namespace {
 
 const QString title = "Tiny Campaign Editor";
-
-QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 ExpectedBox saveQuestion(const QString &name, QMessageBox::StandardButton press)
 {
@@ -49,22 +42,19 @@ private slots:
     void saveAsStartsWithTheBaseName();
     void saveWritesTheCurrentFile();
     void saveThatFailsTellsAndStaysModified();
+    void saveAtALimitKeepsTheOldFile();
+    void saveOnAFullDiskKeepsTheOldFile();
+    void chosenFolderIsKeptAsUtf8();
     void titleMarksChangesOfNamedFilesOnly();
-    void recentFilesStartWithTheNewest();
-    void sixthRecentFileDropsTheOldest();
-    void reopenedRecentFileMovesToTheTop();
-    void vanishedRecentFileStaysInTheList();
-    void recentFilesReachEveryWindow();
-    void newCampaignWithMap();
-    void newCampaignWithoutMap();
-    void newCampaignCancelledChangesNothing();
-    void newNeitherAsksNorTouchesTheFlag();
     void closeAsksAboutChanges_data();
     void closeAsksAboutChanges();
     void closeOfUnchangedAsksNothing();
+    void closeGoesOnAfterACancelledSaveDialog();
+    void exitAsksNothing();
     void defaultAnswerIsYes();
 
 private:
+    void saveFails(MainWindow &window, const QString &path, const QString &reason);
     QString home(const QString &name) { return fixture->game.filePath("Maps/" + name); }
 
     std::unique_ptr<WindowFixture> fixture;
@@ -321,6 +311,65 @@ void MainWindowDocumentsTest::saveThatFailsTellsAndStaysModified()
     QVERIFY(!QApplication::overrideCursor());
 }
 
+// A save that tells its reason and leaves the file, the flag and the title's mark as they are.
+void MainWindowDocumentsTest::saveFails(MainWindow &window, const QString &path,
+                                        const QString &reason)
+{
+    const QByteArray before = contents(path);
+    QVERIFY(!before.isEmpty());
+    EditorData::info.modified = true;
+    window.updateWindowTitle();
+    NextDialog box(boxAnswer(
+        {"Error", "Cannot write file " + path + ":\n" + reason + ".", QMessageBox::Warning}));
+    action(window, "actionSave")->trigger();
+    QVERIFY(box.came());
+    QCOMPARE(contents(path), before);
+    QVERIFY(EditorData::info.modified);
+    QCOMPARE(window.windowTitle(), QFileInfo(path).fileName() + "* - " + title);
+    QCOMPARE(QDir(QFileInfo(path).path()).entryList(QDir::Files).filter(".e3c."), QStringList());
+    QVERIFY(!QApplication::overrideCursor());
+}
+
+void MainWindowDocumentsTest::saveAtALimitKeepsTheOldFile()
+{
+    MainWindow window(nullptr);
+    window.loadFile(second);
+    const FileSizeLimit limit(20);
+    saveFails(window, second, "File too large");
+}
+
+void MainWindowDocumentsTest::saveOnAFullDiskKeepsTheOldFile()
+{
+    const SmallDisk disk(16);
+    if (!disk.isMounted())
+        QSKIP("no right to mount a disk here");
+    const QString path = disk.path("second.e3c");
+    QVERIFY(QFile::copy(second, path));
+    MainWindow window(nullptr);
+    window.loadFile(path);
+    QFile filler(disk.path("filler"));
+    QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    while (filler.write(QByteArray(4096, 'x')) == 4096) {
+    }
+    saveFails(window, path, "No space left on device");
+}
+
+void MainWindowDocumentsTest::chosenFolderIsKeptAsUtf8()
+{
+    const QTemporaryDir work;
+    const QString folder = work.filePath(QString::fromUtf8("Карты é"));
+    QVERIFY(QDir().mkdir(folder));
+    const QString path = folder + "/a.e3c";
+    MainWindow window(nullptr);
+    {
+        NextDialog dialog(chooseFile("Save As", home("").chopped(1), "Untitled", path));
+        action(window, "actionSave")->trigger();
+    }
+    QCOMPARE(QByteArray(ini->GetStringVal("Campaign Editor", "Path", "")), folder.toUtf8());
+    NextDialog dialog(chooseFile("Open Map File", folder, "", ""));
+    action(window, "actionOpen")->trigger();
+}
+
 void MainWindowDocumentsTest::titleMarksChangesOfNamedFilesOnly()
 {
     MainWindow window(nullptr);
@@ -334,156 +383,6 @@ void MainWindowDocumentsTest::titleMarksChangesOfNamedFilesOnly()
     window.updateWindowTitle();
     QCOMPARE(window.windowTitle(), "first.e3c* - " + title);
     window.resetWindowTitle();
-    QCOMPARE(window.windowTitle(), "Untitled.e3c - " + title);
-}
-
-namespace {
-
-QVector<QAction *> recentActions(MainWindow &window)
-{
-    QVector<QAction *> visible;
-    const auto actions = window.findChildren<QAction *>(QString(), Qt::FindDirectChildrenOnly);
-    for (QAction *entry : actions) {
-        if (entry->isVisible() && entry->data().isValid())
-            visible.append(entry);
-    }
-    return visible;
-}
-
-} // namespace
-
-void MainWindowDocumentsTest::recentFilesStartWithTheNewest()
-{
-    MainWindow window(nullptr);
-    window.loadFile(first);
-    window.loadFile(second);
-    const auto actions = recentActions(window);
-    QCOMPARE(actions.size(), 2);
-    QCOMPARE(actions[0]->text(), QString("&1 second.e3c"));
-    QCOMPARE(actions[0]->data().toString(), second);
-    QCOMPARE(actions[1]->text(), QString("&2 first.e3c"));
-    actions[1]->trigger();
-    QCOMPARE(window.windowTitle(), "first.e3c - " + title);
-}
-
-void MainWindowDocumentsTest::sixthRecentFileDropsTheOldest()
-{
-    MainWindow window(nullptr);
-    QStringList expected;
-    for (int i = 1; i <= 6; ++i) {
-        const QString path =
-            fixture->game.addCampaign(QString("n%1.e3c").arg(i), tiny::campaign(3, {{}, {}}));
-        window.loadFile(path);
-        expected.prepend(path);
-    }
-    expected.removeLast();
-    QCOMPARE(QSettings("cmped_info", "").value("recentFileList").toStringList(), expected);
-    const auto actions = recentActions(window);
-    QCOMPARE(actions.size(), 5);
-    QCOMPARE(actions[4]->text(), QString("&5 n2.e3c"));
-}
-
-void MainWindowDocumentsTest::reopenedRecentFileMovesToTheTop()
-{
-    MainWindow window(nullptr);
-    window.loadFile(first);
-    window.loadFile(second);
-    window.loadFile(first);
-    QCOMPARE(QSettings("cmped_info", "").value("recentFileList").toStringList(),
-             QStringList({first, second}));
-}
-
-void MainWindowDocumentsTest::vanishedRecentFileStaysInTheList()
-{
-    MainWindow window(nullptr);
-    window.loadFile(first);
-    window.loadFile(second);
-    QFile::remove(first);
-    NextDialog box(
-        boxAnswer({"Error", "Cannot read file " + first + ":\nNo such file or directory.",
-                   QMessageBox::Warning}));
-    recentActions(window)[1]->trigger();
-    QCOMPARE(QSettings("cmped_info", "").value("recentFileList").toStringList(),
-             QStringList({second, first}));
-}
-
-void MainWindowDocumentsTest::recentFilesReachEveryWindow()
-{
-    MainWindow window(nullptr);
-    MainWindow other(nullptr);
-    window.loadFile(first);
-    QCOMPARE(recentActions(other).size(), 1);
-}
-
-void MainWindowDocumentsTest::newCampaignWithMap()
-{
-    MainWindow window(nullptr);
-    QVERIFY(show(window));
-    window.loadFile(first);
-    EditorData::info.region = 2;
-    NextDialog dialog([](QWidget *widget) {
-        widget->findChild<QListWidget *>("listWidget")->setCurrentRow(1);
-        clickOn(static_cast<QWidget *>(
-            widget->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Ok)));
-    });
-    action(window, "actionNew")->trigger();
-    QCOMPARE(window.windowTitle(), "Untitled.e3c - " + title);
-    QCOMPARE(window.campaignId, 3U);
-    QCOMPARE(EditorData::info.campaign, 3U);
-    QCOMPARE(EditorData::info.region, 0U);
-    QCOMPARE(regionsOf(window).size(), 2);
-    QCOMPARE(regionNameIn(window), QString("West Keep"));
-}
-
-void MainWindowDocumentsTest::newCampaignWithoutMap()
-{
-    MainWindow window(nullptr);
-    QVERIFY(show(window));
-    window.loadFile(second);
-    NextDialog dialog([](QWidget *widget) {
-        clickOn(widget->findChild<QRadioButton *>("campaignWithoutMapBtn"), QPoint(8, 8));
-        widget->findChild<QListWidget *>("listWidget")->setCurrentRow(1);
-        clickOn(static_cast<QWidget *>(
-            widget->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Ok)));
-    });
-    action(window, "actionNew")->trigger();
-    QCOMPARE(window.campaignId, 24U);
-    QCOMPARE(regionNameIn(window), QString());
-    const auto items = mapView(window)->scene()->items();
-    QCOMPARE(items.size(), 1);
-    QCOMPARE(pixelOf(qgraphicsitem_cast<QGraphicsPixmapItem *>(items[0]), 0, 0),
-             tiny::backgroundColour("plaintwo.pcx"));
-    QCOMPARE(window.getRegionColor(0), 2);
-}
-
-void MainWindowDocumentsTest::newCampaignCancelledChangesNothing()
-{
-    MainWindow window(nullptr);
-    QVERIFY(show(window));
-    window.loadFile(second);
-    NextDialog dialog([](QWidget *widget) {
-        widget->findChild<QListWidget *>("listWidget")->setCurrentRow(0);
-        clickOn(static_cast<QWidget *>(
-            widget->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Cancel)));
-    });
-    action(window, "actionNew")->trigger();
-    QCOMPARE(window.windowTitle(), "second.e3c - " + title);
-    QCOMPARE(window.campaignId, 3U);
-}
-
-void MainWindowDocumentsTest::newNeitherAsksNorTouchesTheFlag()
-{
-    MainWindow window(nullptr);
-    QVERIFY(show(window));
-    window.loadFile(second);
-    EditorData::info.modified = true;
-    NextDialog dialog([](QWidget *widget) {
-        QCOMPARE(widget->objectName(), QString("newcampaign"));
-        clickOn(static_cast<QWidget *>(
-            widget->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Ok)));
-    });
-    action(window, "actionNew")->trigger();
-    QVERIFY(EditorData::info.modified);
     QCOMPARE(window.windowTitle(), "Untitled.e3c - " + title);
 }
 
@@ -515,6 +414,35 @@ void MainWindowDocumentsTest::closeOfUnchangedAsksNothing()
     MainWindow window(nullptr);
     QVERIFY(show(window));
     QVERIFY(window.close());
+}
+
+void MainWindowDocumentsTest::closeGoesOnAfterACancelledSaveDialog()
+{
+    MainWindow window(nullptr);
+    EditorData::info.modified = true;
+    NextDialog question(boxAnswer(saveQuestion("Untitled", QMessageBox::Yes)));
+    NextDialog saving(chooseFile("Save As", home("").chopped(1), "Untitled", ""));
+    QCloseEvent event;
+    QApplication::sendEvent(&window, &event);
+    QVERIFY(saving.came());
+    QVERIFY(event.isAccepted());
+}
+
+void MainWindowDocumentsTest::exitAsksNothing()
+{
+    MainWindow window(nullptr);
+    QVERIFY(show(window));
+    EditorData::info.modified = true;
+    QAction *exit = action(window, "actionExit");
+    bool asked = false;
+    QTimer::singleShot(0, exit, [&] {
+        exit->trigger();
+        asked = QApplication::activeModalWidget() != nullptr;
+    });
+    QTimer::singleShot(20000, exit, [] { QCoreApplication::exit(9); }); // should it not end
+    QCOMPARE(QApplication::exec(), 0);
+    QVERIFY(!asked);
+    QVERIFY(EditorData::info.modified);
 }
 
 void MainWindowDocumentsTest::defaultAnswerIsYes()

@@ -34,6 +34,8 @@ private slots:
     void startsAsUntitledDummyOfMap24();
     void titleOfTheForm();
     void returnKeysHaveWindowShortcuts();
+    void keysOpenTheProperties_data();
+    void keysOpenTheProperties();
     void opensWithTheWholeMapInSight();
     void smallerWindowGetsScrollBars_data();
     void smallerWindowGetsScrollBars();
@@ -312,6 +314,38 @@ void MainWindowTest::returnKeysHaveWindowShortcuts()
         keys << shortcut->key().toString(QKeySequence::PortableText);
     }
     QCOMPARE(keys, QStringList({"Return", "Ctrl+Return"}));
+}
+
+void MainWindowTest::keysOpenTheProperties_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<QString>("name");
+    const int none = int(Qt::NoModifier);
+    const int keypad = int(Qt::KeypadModifier);
+    const int control = int(Qt::ControlModifier);
+    QTest::newRow("Return") << int(Qt::Key_Return) << none << "scenarioProperties";
+    QTest::newRow("Enter") << int(Qt::Key_Enter) << keypad << "scenarioProperties";
+    QTest::newRow("Ctrl+Return") << int(Qt::Key_Return) << control << "campaignProperties";
+    QTest::newRow("Ctrl+Enter") << int(Qt::Key_Enter) << (keypad | control) << "campaignProperties";
+}
+
+void MainWindowTest::keysOpenTheProperties()
+{
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    QFETCH(QString, name);
+    MainWindow window(nullptr);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QStringList opened;
+    for (const char *command : {"scenarioProperties", "campaignProperties"}) {
+        QAction *found = action(window, command);
+        found->setEnabled(true);
+        connect(found, &QAction::triggered, &window, [&opened, command] { opened << command; });
+    }
+    QTest::keyClick(window.windowHandle(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+    QCOMPARE(opened, QStringList(name));
 }
 
 void MainWindowTest::opensWithTheWholeMapInSight()

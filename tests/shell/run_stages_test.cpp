@@ -1,0 +1,155 @@
+// What the start-up and the end leave behind, seen from within the process: the globals, the
+// pictures kept, when the settings are written, and an end that asks nothing.
+#include "gamedata/editor_data.h"
+#include "gamedata/game_dir.h"
+#include "gamedata/image_cache.h"
+#include "gamedata/ini_file.h"
+#include "gamedata/runtime/dat_file.h"
+#include "tests/support/file_contents.h"
+#include "tests/support/tiny_game.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMainWindow>
+#include <QTest>
+#include <QTimer>
+
+#include <array>
+
+extern "C" int run(int argc, char **argv);
+
+namespace {
+
+constexpr int lookInterval = 5; // milliseconds
+
+// What was seen while the event loop ran.
+struct Sight
+{
+    bool hasTableFile = false;
+    QImage pattern;
+    bool asked = false;
+    QByteArray settings;
+};
+
+Sight sight;
+QString settingsFile;
+
+QMainWindow *visibleWindow()
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        auto *window = qobject_cast<QMainWindow *>(widget);
+        if (window && window->isVisible())
+            return window;
+    }
+    return nullptr;
+}
+
+// Changes a setting and the campaign, then leaves by the menu.
+void lookAndLeave(QMainWindow *window)
+{
+    sight.hasTableFile = RADF != nullptr;
+    sight.pattern = preloadArchive->images16.value("cmpdash.pcx");
+    ini->SetStringVal("Campaign Editor", "Path", "/somewhere");
+    EditorData::info.modified = true;
+    sight.settings = contents(settingsFile);
+    window->findChild<QAction *>("actionExit")->trigger();
+    sight.asked = QApplication::activeModalWidget() != nullptr;
+}
+
+void look()
+{
+    static bool seen = false;
+    QMainWindow *window = visibleWindow();
+    if (!window || seen)
+        return;
+    seen = true;
+    // Once the event loop runs; nothing of the start-up is left to be done then.
+    QTimer::singleShot(0, window, [window] { lookAndLeave(window); });
+}
+
+void startLooking()
+{
+    auto *timer = new QTimer(QCoreApplication::instance());
+    QObject::connect(timer, &QTimer::timeout, look);
+    timer->start(lookInterval);
+}
+
+} // namespace
+
+Q_COREAPP_STARTUP_FUNCTION(startLooking)
+
+class RunStagesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void loopEndsWithZero() { QCOMPARE(result, 0); }
+    void dashPatternIsKeptBeforeTheLoop();
+    void exitAsksNothingAboutChanges();
+    void settingsAreWrittenBehindTheLoopAlone();
+    void tableFileIsFreedAtTheEnd();
+    void settingsAndPicturesAreNotFreed();
+    void applicationIsGone();
+
+private:
+    tiny::Game game;
+    int result = -1;
+};
+
+void RunStagesTest::initTestCase()
+{
+    setGameRoot(game.path());
+    settingsFile = game.filePath("Ravn_settings.ini");
+    QByteArray name("cmped");
+    std::array<char *, 2> arguments{name.data(), nullptr};
+    result = run(1, arguments.data());
+}
+
+void RunStagesTest::dashPatternIsKeptBeforeTheLoop()
+{
+    QCOMPARE(sight.pattern.format(), QImage::Format_RGB16);
+    QCOMPARE(sight.pattern.size(), QSize(456, 600));
+}
+
+void RunStagesTest::exitAsksNothingAboutChanges()
+{
+    QVERIFY(!sight.asked);
+    QVERIFY(EditorData::info.modified);
+}
+
+void RunStagesTest::settingsAreWrittenBehindTheLoopAlone()
+{
+    QCOMPARE(sight.settings, QByteArray("[Global Settings]\r\nLanguage=0\r\n"));
+    QCOMPARE(contents(settingsFile), QByteArray("[Global Settings]\r\n\r\nLanguage=0\r\n\r\n\r\n"
+                                                "[Campaign Editor]\r\n\r\nPath=/somewhere\r\n"
+                                                "\r\n\r\n"));
+}
+
+void RunStagesTest::tableFileIsFreedAtTheEnd()
+{
+    QVERIFY(sight.hasTableFile);
+    QVERIFY(!RADF);
+}
+
+void RunStagesTest::settingsAndPicturesAreNotFreed()
+{
+    QCOMPARE(QByteArray(ini->GetStringVal("Campaign Editor", "Path", "")),
+             QByteArray("/somewhere"));
+    QVERIFY(preloadArchive->images16.contains("cmpdash.pcx"));
+}
+
+void RunStagesTest::applicationIsGone()
+{
+    QVERIFY(!QCoreApplication::instance());
+}
+
+// The editor makes the application object.
+int main(int argc, char **argv)
+{
+    RunStagesTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "run_stages_test.moc"
