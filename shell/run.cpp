@@ -14,9 +14,11 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QIcon>
 #include <QSplashScreen>
 
 #include <array>
+#include <csignal>
 #include <memory>
 
 namespace {
@@ -32,8 +34,16 @@ struct Session
     std::unique_ptr<MainWindow> window;
 };
 
+// Let a write past the limit on file sizes fail, which a message tells, instead of killing the
+// editor with the document in it.
+void surviveFileSizeLimit()
+{
+    std::signal(SIGXFSZ, SIG_IGN);
+}
+
 void setAttributes(Session &)
 {
+    surviveFileSizeLimit();
     initEditorResources();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
@@ -42,6 +52,7 @@ void setAttributes(Session &)
 void createApplication(Session &session)
 {
     session.application = std::make_unique<QApplication>(session.argc, session.argv);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/cmped.ico")));
     reportWithMessageBoxes();
 }
 

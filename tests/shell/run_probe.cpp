@@ -1,14 +1,17 @@
 // Runs the editor's library as the launcher does, watches it from within its own event loops and
 // prints what it sees, a line each:
 //
-//   box|TITLE|TEXT|ICON|BUTTONS|is the main window visible    line feeds as "\n"; then presses OK
+//   box|TITLE|TEXT|ICON|BUTTONS|is the main window visible|SPLASH
+//       line feeds as "\n"; then presses OK
 //   window|TITLE|MENU|SPLASH|FONT SIZE|COMBO ANIMATION|HIGH DPI SCALING|HIGH DPI PIXMAPS
 //
 // When the window is there, RUN_PROBE_END says how the program is ended: "exit" by its menu,
-// "close" by the window's button, or a signal's number.
+// "close" by the window's button, "new ROW" by choosing this row of the dialog for a new campaign,
+// or a signal's number; where the editor survives it, the menu ends it.
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QListWidget>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -66,8 +69,17 @@ void answerBox()
     if (!box || !box->isVisible())
         return;
     print({"box", box->windowTitle(), box->text(), QString::number(box->icon()),
-           QString::number(int(box->standardButtons())), visibleWindow() ? "1" : "0"});
+           QString::number(int(box->standardButtons())), visibleWindow() ? "1" : "0",
+           splashName()});
     box->button(QMessageBox::Ok)->click();
+}
+
+void chooseNewCampaign(QMainWindow *window, int row)
+{
+    QTimer::singleShot(0, window, [row] {
+        QApplication::activeModalWidget()->findChild<QListWidget *>()->setCurrentRow(row);
+    });
+    window->findChild<QAction *>("actionNew")->trigger();
 }
 
 void endProgram(QMainWindow *window)
@@ -77,8 +89,12 @@ void endProgram(QMainWindow *window)
         window->findChild<QAction *>("actionExit")->trigger();
     else if (way == "close")
         window->close();
+    else if (way.startsWith("new "))
+        chooseNewCampaign(window, way.mid(4).toInt());
     else
         std::raise(way.toInt());
+    if (way.toInt() == SIGXFSZ)
+        QCoreApplication::quit();
 }
 
 void look()

@@ -35,6 +35,11 @@ private slots:
     void missingFileEndsTheProcess_data();
     void missingFileEndsTheProcess();
     void missingMaskEndsTheProcessWithoutAWord();
+    void missingRegionPictureEndsTheProcess_data();
+    void missingRegionPictureEndsTheProcess();
+    void missingPreviewPictureEndsTheProcessWithoutAWord_data();
+    void missingPreviewPictureEndsTheProcessWithoutAWord();
+    void survivesTheLimitOnFileSizes();
     void namedFileIsOpenedBeforeTheWindowShows();
     void fileThatCantBeReadIsToldBeforeTheWindowShows();
     void missingTranslationShowsTheSourceTexts();
@@ -163,7 +168,7 @@ void RunTest::unknownCodecEndsTheProcess()
              QStringList({"Error",
                           "Error in Ravn_Settings.ini: field \"Ravn.dat Text Encoding\" is "
                           "invalid.",
-                          "3", "1024", "0"}));
+                          "3", "1024", "0", "none"}));
     QVERIFY(columns(result, "window").isEmpty());
 }
 
@@ -171,28 +176,33 @@ void RunTest::missingFileEndsTheProcess_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("splash");
     QTest::newRow("settings") << "Ravn_settings.ini"
                               << "Eldmark Campaign Editor cannot be launched because "
                                  "Ravn_settings.ini was not found. \\nRavn_settings.ini must be "
-                                 "in Eldmark root folder.";
+                                 "in Eldmark root folder."
+                              << "none";
     QTest::newRow("table file") << "ravn.dat"
                                 << "Campaign Editor cannot be launched because Ravn.dat was not "
-                                   "found. \\nRavn.dat must be in Eldmark root folder.";
+                                   "found. \\nRavn.dat must be in Eldmark root folder."
+                                << "none";
     QTest::newRow("archive") << "Data/E3bitmap.lod"
-                             << "Can't find CRTRAITS.TXT file in lod file";
+                             << "Can't find CRTRAITS.TXT file in lod file"
+                             << "none";
 }
 
 void RunTest::missingFileEndsTheProcess()
 {
     QFETCH(QString, file);
     QFETCH(QString, text);
+    QFETCH(QString, splash);
     const tiny::Game game;
     const QByteArray settings = contents(game.filePath("Ravn_settings.ini"));
     QVERIFY(QFile::remove(game.filePath(file)));
     const ChildResult result = start(game);
     QVERIFY(result.exitedNormally);
     QCOMPARE(result.exitCode, 1);
-    QCOMPARE(columns(result, "box"), QStringList({"Error", text, "3", "1024", "0"}));
+    QCOMPARE(columns(result, "box"), QStringList({"Error", text, "3", "1024", "0", splash}));
     QVERIFY(columns(result, "window").isEmpty());
     // Only the end of the event loop writes the settings.
     if (file != "Ravn_settings.ini")
@@ -208,6 +218,54 @@ void RunTest::missingMaskEndsTheProcessWithoutAWord()
     QCOMPARE(result.exitCode, 1);
     QVERIFY(columns(result, "box").isEmpty());
     QVERIFY(columns(result, "window").isEmpty());
+}
+
+void RunTest::missingRegionPictureEndsTheProcess_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("in no archive")
+        << tiny::campaign(6, {{}}) << "Can't find gone.pcx file in lod file";
+    QTest::newRow("of a colour past the table")
+        << tiny::campaign(3, {{}, {false, 8}}) << "Can't find  file in lod file";
+}
+
+void RunTest::missingRegionPictureEndsTheProcess()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, text);
+    const tiny::Game game;
+    const ChildResult result = start(game, {game.addCampaign("torn.e3c", bytes)});
+    QVERIFY(result.exitedNormally);
+    QCOMPARE(result.exitCode, 1);
+    QCOMPARE(columns(result, "box"), QStringList({"Error", text, "3", "1024", "0", "en visible"}));
+    QVERIFY(columns(result, "window").isEmpty());
+}
+
+void RunTest::missingPreviewPictureEndsTheProcessWithoutAWord_data()
+{
+    QTest::addColumn<QString>("row");
+    QTest::newRow("ready-made") << "3";
+    QTest::newRow("computed") << "4";
+}
+
+void RunTest::missingPreviewPictureEndsTheProcessWithoutAWord()
+{
+    QFETCH(QString, row);
+    const tiny::Game game;
+    const ChildResult result = start(game, {}, "new " + row);
+    QVERIFY(result.exitedNormally);
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY(columns(result, "box").isEmpty());
+    QCOMPARE(columns(result, "window").value(0), untitled);
+}
+
+void RunTest::survivesTheLimitOnFileSizes()
+{
+    const tiny::Game game;
+    const ChildResult result = start(game, {}, QString::number(SIGXFSZ));
+    QVERIFY(result.exitedNormally);
+    QCOMPARE(result.exitCode, 0);
 }
 
 void RunTest::namedFileIsOpenedBeforeTheWindowShows()
@@ -228,7 +286,7 @@ void RunTest::fileThatCantBeReadIsToldBeforeTheWindowShows()
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(columns(result, "box"),
              QStringList({"Error", "Cannot read file " + gone + ":\\nNo such file or directory.",
-                          "2", "1024", "0"}));
+                          "2", "1024", "0", "en visible"}));
     QCOMPARE(columns(result, "window").value(0), untitled);
 }
 
