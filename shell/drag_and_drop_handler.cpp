@@ -61,7 +61,6 @@ QString DragAndDropHandler::getUrlFromMimeData(const QMimeData *data)
 
 void DragAndDropHandler::tellDroppedFile(const QMimeData *data)
 {
-    const QString path = getUrlFromMimeData(data);
-    if (!path.isEmpty())
-        emit fileDropped(path);
+    if (!data->urls().isEmpty())
+        emit fileDropped(getUrlFromMimeData(data));
 }

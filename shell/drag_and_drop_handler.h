@@ -24,7 +24,8 @@ public:
     // Accepts what brings URLs; of what kind the file is, its reader will tell.
     void handleDragEnter(QDragEnterEvent *event);
     void handleDragEnter(QGraphicsSceneDragDropEvent *event);
-    // Tells the first URL's path. A drop that brings no local file is accepted and passed over.
+    // Tells the first URL's path, an empty one too, which its reader turns away as it does any
+    // wrong file. A drop without a URL is accepted and passed over.
     void handleDrop(QDropEvent *event);
     void handleDrop(QGraphicsSceneDragDropEvent *event);
 

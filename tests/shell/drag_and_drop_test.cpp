@@ -30,6 +30,7 @@ private slots:
     void onlyTheFirstOfSeveralFilesOpens();
     void dropAsksAboutChangesFirst();
     void wrongFileIsTurnedAwayByItsReader();
+    void fileFromElsewhereCantBeRead();
 
 private:
     bool drop(MainWindow &window, const QPoint &place, const QMimeData &data);
@@ -76,8 +77,8 @@ void DragAndDropTest::urlOfMimeData()
     event.ignore();
     handler.handleDrop(&event);
     QVERIFY(event.isAccepted());
-    QCOMPARE(dropped.size(), path.isEmpty() ? 0 : 1);
-    if (!path.isEmpty())
+    QCOMPARE(dropped.size(), urls.isEmpty() ? 0 : 1);
+    if (!urls.isEmpty())
         QCOMPARE(dropped[0][0].toString(), path);
 }
 
@@ -243,6 +244,19 @@ void DragAndDropTest::wrongFileIsTurnedAwayByItsReader()
     data.setUrls({QUrl::fromLocalFile(text)});
     drop(window, QPoint(200, 300), data);
     QVERIFY(box.came());
+}
+
+void DragAndDropTest::fileFromElsewhereCantBeRead()
+{
+    MainWindow window(nullptr);
+    QVERIFY(show(window));
+    NextDialog box(
+        boxAnswer({"Error", "Cannot read file :\nNo file name specified.", QMessageBox::Warning}));
+    QMimeData data;
+    data.setUrls({QUrl("https://example.org/a.e3c"), QUrl::fromLocalFile(second)});
+    QVERIFY(drop(window, QPoint(200, 300), data));
+    QVERIFY(box.came());
+    QCOMPARE(window.windowTitle(), QString("Untitled.e3c - Tiny Campaign Editor"));
 }
 
 QTEST_MAIN(DragAndDropTest)
