@@ -58,6 +58,10 @@ void putBackgroundToLabel(QLabel *label, QString name, bool withRegions, unsigne
         return;
     if (withRegions)
         drawRegions(picture, campaignId);
-    label->setPixmap(QPixmap::fromImage(
-        picture.scaled(label->size(), Qt::KeepAspectRatio, Qt::SmoothTransformation)));
+    // In the screen's own pixels, of which a dense screen has several to the label's one.
+    const qreal density = label->devicePixelRatioF();
+    QImage scaled =
+        picture.scaled(label->size() * density, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    scaled.setDevicePixelRatio(density);
+    label->setPixmap(QPixmap::fromImage(scaled));
 }

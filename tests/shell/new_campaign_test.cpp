@@ -33,6 +33,8 @@ private slots:
     void missingRegionPictureEndsTheProcessSilently();
     void missingMaskEndsTheProcess();
     void previewWithoutRegions();
+    void arrowKeysSwitchTheKind();
+    void previewHasThePixelsOfADenseScreen();
 
 private:
     static QListWidget *list(NewCampaign &dialog)
@@ -249,13 +251,7 @@ void NewCampaignTest::missingRegionPictureEndsTheProcessSilently()
 {
     const ReportRecorder recorder;
     QLabel label;
-    int code = 0;
-    try {
-        putBackgroundToLabel(&label, "backtwo.pcx", true, 6);
-    } catch (const ProcessEnd &end) {
-        code = end.code;
-    }
-    QCOMPARE(code, 1);
+    QCOMPARE(exitCodeOf([&] { putBackgroundToLabel(&label, "backtwo.pcx", true, 6); }), 1);
     QVERIFY(recorder.errors.isEmpty());
 }
 
@@ -263,7 +259,8 @@ void NewCampaignTest::missingMaskEndsTheProcess()
 {
     const ReportRecorder recorder;
     QLabel label;
-    QVERIFY_EXCEPTION_THROWN(putBackgroundToLabel(&label, "backtwo.pcx", true, 7), ProcessEnd);
+    QCOMPARE(exitCodeOf([&] { putBackgroundToLabel(&label, "backtwo.pcx", true, 7); }), 1);
+    QVERIFY(recorder.errors.isEmpty());
 }
 
 void NewCampaignTest::previewWithoutRegions()
@@ -272,6 +269,35 @@ void NewCampaignTest::previewWithoutRegions()
     putBackgroundToLabel(label.get(), "backtwo.pcx", false, 3);
     QCOMPARE(imageOf(*label).pixelColor(15, 15), tiny::backgroundColour("backtwo.pcx"));
     QCOMPARE(imageOf(*label).pixelColor(0, 300), tiny::backgroundColour("backtwo.pcx"));
+}
+
+void NewCampaignTest::arrowKeysSwitchTheKind()
+{
+    NewCampaign dialog(nullptr);
+    QVERIFY(show(dialog));
+    dialog.findChild<QRadioButton *>("campaignWithMapBtn")->setFocus();
+    QTest::keyClick(dialog.windowHandle(), Qt::Key_Right);
+    QVERIFY(!dialog.isCampaignWithMap());
+    QCOMPARE(names(dialog), QStringList({"plainone.pcx", "plaintwo.pcx"}));
+}
+
+void NewCampaignTest::previewHasThePixelsOfADenseScreen()
+{
+    class DenseLabel : public QLabel
+    {
+    protected:
+        int metric(PaintDeviceMetric metric) const override
+        {
+            if (metric == PdmDevicePixelRatioScaled)
+                return int(2 * devicePixelRatioFScale());
+            return QLabel::metric(metric);
+        }
+    };
+    DenseLabel label;
+    label.resize(228, 300);
+    putBackgroundToLabel(&label, "backtwo.pcx", false, 3);
+    QCOMPARE(label.pixmap(Qt::ReturnByValue).size(), QSize(456, 600));
+    QCOMPARE(label.pixmap(Qt::ReturnByValue).devicePixelRatio(), 2.0);
 }
 
 QTEST_MAIN(NewCampaignTest)
