@@ -122,7 +122,9 @@ QStringList EditorData::readTxtFile(const QString &name, QTextCodec *textCodec)
     int size = 0;
     const std::unique_ptr<char[]> bytes(getLodFileData(name, &size));
     if (!bytes)
-        endWithMessage(mainWindowText("Can't find %1 file in lod file").arg(name));
+        endWithMessage(
+            mainWindowText(QT_TRANSLATE_NOOP("MainWindow", "Can't find %1 file in lod file"))
+                .arg(name));
     const int length = int(std::min<qint64>(size, limits::textTableBytes));
     return table_text::allLines(table_text::decoded(bytes.get(), length, textCodec));
 }

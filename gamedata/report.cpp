@@ -46,7 +46,7 @@ void endSilently(int code)
 
 QString errorTitle()
 {
-    return mainWindowText("Error");
+    return mainWindowText(QT_TRANSLATE_NOOP("MainWindow", "Error"));
 }
 
 QString mainWindowText(const char *source)

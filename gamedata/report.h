@@ -33,5 +33,6 @@ void reportError(const QString &title, const QString &text);
 // The translated title of every error message, "Error" in the context of the main window.
 QString errorTitle();
 
-// A text of the main window's translation context, for messages that rooms below it word.
+// A text of the main window's translation context, for messages that rooms below it word. Wants
+// QT_TRANSLATE_NOOP around its literal, by which the translators' tool finds it.
 QString mainWindowText(const char *source);

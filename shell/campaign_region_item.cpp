@@ -20,8 +20,11 @@ void CampaignRegionItem::refreshImage()
     const RegionPicture picture = regionPicture(campaignId, regionIndex, imageState(), regionColor);
     if (picture.image.isNull()) {
         if (EditorData::campaignMap(campaignId).generated)
-            endWithMessage(mainWindowText("Unable to generate image"));
-        endWithMessage(mainWindowText("Can't find %1 file in lod file").arg(picture.missingFile));
+            endWithMessage(
+                mainWindowText(QT_TRANSLATE_NOOP("MainWindow", "Unable to generate image")));
+        const QString text =
+            mainWindowText(QT_TRANSLATE_NOOP("MainWindow", "Can't find %1 file in lod file"));
+        endWithMessage(text.arg(picture.missingFile));
     }
     setPixmap(QPixmap::fromImage(picture.image));
 }

@@ -7,6 +7,7 @@
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QStyleOptionGraphicsItem>
 #include <QWheelEvent>
 
@@ -47,9 +48,11 @@ private slots:
     void noSelectionFrameIsDrawn();
     void missingPictureEndsTheProcess();
     void missingMasksEndTheProcess();
+    void colourPastTheTableEndsTheProcess();
     void impossiblePictureEndsTheProcess();
     void rightDoubleClickIsIgnored();
-    void doubleClickSelectsAndTakesTheEvent();
+    void doubleClickOpensTheScenario_data();
+    void doubleClickOpensTheScenario();
     void wheelNeverScrolls();
     void enteringTheMapShowsItsHint();
     void contextMenuOffersProperties();
@@ -286,13 +289,7 @@ void MapViewTest::missingPictureEndsTheProcess()
     const ReportRecorder recorder;
     MainWindow window(nullptr);
     const QString path = fixture->game.addCampaign("torn.e3c", tiny::campaign(6, {{}}));
-    int code = 0;
-    try {
-        window.loadFile(path);
-    } catch (const ProcessEnd &end) {
-        code = end.code;
-    }
-    QCOMPARE(code, 1);
+    QCOMPARE(exitCodeOf([&] { window.loadFile(path); }), 1);
     QCOMPARE(recorder.errors.size(), 1);
     QCOMPARE(recorder.errors[0].title, QString("Error"));
     QCOMPARE(recorder.errors[0].text, QString("Can't find gone.pcx file in lod file"));
@@ -304,8 +301,21 @@ void MapViewTest::missingMasksEndTheProcess()
     const ReportRecorder recorder;
     MainWindow window(nullptr);
     const QString path = fixture->game.addCampaign("blind.e3c", tiny::campaign(7, {{}}));
-    QVERIFY_EXCEPTION_THROWN(window.loadFile(path), ProcessEnd);
+    QCOMPARE(exitCodeOf([&] { window.loadFile(path); }), 1);
     QVERIFY(recorder.errors.isEmpty());
+}
+
+// The layout names no picture for it.
+void MapViewTest::colourPastTheTableEndsTheProcess()
+{
+    const ReportRecorder recorder;
+    MainWindow window(nullptr);
+    const QString path =
+        fixture->game.addCampaign("gaudy.e3c", tiny::campaign(3, {{true, 7}, {true, 8}}));
+    QCOMPARE(exitCodeOf([&] { window.loadFile(path); }), 1);
+    QCOMPARE(recorder.errors.size(), 1);
+    QCOMPARE(recorder.errors[0].title, QString("Error"));
+    QCOMPARE(recorder.errors[0].text, QString("Can't find  file in lod file"));
 }
 
 void MapViewTest::impossiblePictureEndsTheProcess()
@@ -316,7 +326,7 @@ void MapViewTest::impossiblePictureEndsTheProcess()
     QCOMPARE(item.state, 0U);
     item.campaignId = 24;
     item.regionIndex = 99;
-    QVERIFY_EXCEPTION_THROWN(item.refreshImage(), ProcessEnd);
+    QCOMPARE(exitCodeOf([&] { item.refreshImage(); }), 1);
     QCOMPARE(recorder.errors.size(), 1);
     QCOMPARE(recorder.errors[0].title, QString("Error"));
     QCOMPARE(recorder.errors[0].text, QString("Unable to generate image"));
@@ -336,15 +346,34 @@ void MapViewTest::rightDoubleClickIsIgnored()
     QVERIFY(!event.isAccepted());
 }
 
-void MapViewTest::doubleClickSelectsAndTakesTheEvent()
+void MapViewTest::doubleClickOpensTheScenario_data()
 {
+    QTest::addColumn<int>("button");
+    QTest::addColumn<bool>("selects");
+    QTest::addColumn<bool>("opens");
+    QTest::newRow("left") << int(Qt::LeftButton) << true << true;
+    QTest::newRow("right") << int(Qt::RightButton) << true << false;
+    QTest::newRow("middle") << int(Qt::MiddleButton) << false << true;
+}
+
+void MapViewTest::doubleClickOpensTheScenario()
+{
+    QFETCH(int, button);
+    QFETCH(bool, selects);
+    QFETCH(bool, opens);
     MainWindow window(nullptr);
     QVERIFY(show(window));
-    clickOn(mapView(window)->viewport(), QPoint(210, 310));
-    QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {},
-                       mapView(window)->viewport()->mapTo(&window, QPoint(210, 310)));
-    QVERIFY(regionsOf(window)[2]->isSelected);
-    QVERIFY(!QApplication::activeModalWidget());
+    action(window, "scenarioProperties")->setEnabled(true);
+    QSignalSpy opened(action(window, "scenarioProperties"), &QAction::triggered);
+    const QPoint place(210, 310);
+    mapView(window)->setContextMenuPolicy(
+        Qt::NoContextMenu); // its menu would take the second press
+    clickOn(mapView(window)->viewport(), place, Qt::MouseButton(button));
+    QCOMPARE(regionsOf(window)[2]->isSelected, selects);
+    QCOMPARE(opened.size(), 0);
+    QTest::mouseDClick(window.windowHandle(), Qt::MouseButton(button), {},
+                       mapView(window)->viewport()->mapTo(&window, place));
+    QCOMPARE(opened.size(), opens ? 1 : 0);
 }
 
 void MapViewTest::wheelNeverScrolls()
@@ -380,22 +409,21 @@ void MapViewTest::contextMenuOffersProperties()
     MainWindow window(nullptr);
     QVERIFY(show(window));
     QCOMPARE(mapView(window)->contextMenuPolicy(), Qt::CustomContextMenu);
+    action(window, "scenarioProperties")->setEnabled(true);
+    QSignalSpy opened(action(window, "scenarioProperties"), &QAction::triggered);
     QStringList texts;
-    bool enabled = true;
     QTimer::singleShot(0, &window, [&] {
         auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
         QVERIFY(menu);
         const auto entries = menu->actions();
-        for (const QAction *entry : entries) {
+        for (const QAction *entry : entries)
             texts << entry->text();
-            enabled = entry->isEnabled();
-        }
-        menu->close();
+        clickOn(menu, menu->actionGeometry(entries[0]).center());
     });
     QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(400, 500));
     QApplication::sendEvent(mapView(window)->viewport(), &event);
     QTRY_COMPARE(texts, QStringList("Properties..."));
-    QCOMPARE(enabled, action(window, "scenarioProperties")->isEnabled());
+    QCOMPARE(opened.size(), 1);
 }
 
 void MapViewTest::scenarioBrowserIsAnEmptyPage()
