@@ -38,8 +38,9 @@ public:
     // Opens a campaign after a question about unsaved changes. The document stays as it was if
     // the file can't be read, which a message tells.
     void loadFile(const QString &path);
-    // Writes the campaign. If that fails a message tells it and the document stays modified.
-    void saveFile(const QString &path);
+    // Writes the campaign. If that fails a message tells it, the document stays modified, and the
+    // answer is false.
+    bool saveFile(const QString &path);
     // Makes this the document's file and the first of the recent ones.
     void setCurrentFile(const QString &path);
     // Opens the campaign that the command line names.
@@ -71,8 +72,9 @@ private slots:
     void newFile();
     void open();
     void openRecentFile();
-    void save();
-    void saveAs();
+    // False if the file could not be written; a file dialog that was cancelled is no failure.
+    bool save();
+    bool saveAs();
     void quit();
     void about();
     void setTooltipToHintBar();

@@ -132,15 +132,12 @@ void MainWindow::loadFile(const QString &path)
     EditorData::info.modified = false;
 }
 
-void MainWindow::save()
+bool MainWindow::save()
 {
-    if (currentFile.isEmpty())
-        saveAs();
-    else
-        saveFile(currentFile);
+    return currentFile.isEmpty() ? saveAs() : saveFile(currentFile);
 }
 
-void MainWindow::saveAs()
+bool MainWindow::saveAs()
 {
     const QString name = currentFile.isEmpty() ? untitled() : QFileInfo(currentFile).baseName();
     QFileDialog dialog(this, tr("Save As"), startFolder(mapsFolder()),
@@ -149,24 +146,25 @@ void MainWindow::saveAs()
     dialog.setDefaultSuffix(QStringLiteral("e3c"));
     dialog.selectFile(name);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return;
+        return true;
     const QString path = dialog.selectedFiles().constFirst();
     rememberFolderOf(path);
-    saveFile(path);
+    return saveFile(path);
 }
 
-void MainWindow::saveFile(const QString &path)
+bool MainWindow::saveFile(const QString &path)
 {
     WaitCursor cursor;
     const SaveResult result = campaign.saveTo(path);
     cursor.restore();
     if (!result.ok) {
         warn(this, tr("Error"), tr("Cannot write file %1:\n%2.").arg(path, result.error));
-        return;
+        return false;
     }
     setCurrentFile(path);
     EditorData::info.modified = false;
     updateWindowTitle();
+    return true;
 }
 
 void MainWindow::processInfo(QApplication *)
@@ -181,7 +179,8 @@ QString MainWindow::strippedName(const QString &path)
     return QFileInfo(path).fileName();
 }
 
-// A Yes whose save dialog is then cancelled counts as Yes.
+// A Yes whose save dialog is then cancelled counts as Yes. One whose saving fails counts as Cancel:
+// to go on would lose what was to be saved.
 unsigned int MainWindow::askSaveChanges()
 {
     const QString name = currentFile.isEmpty() ? untitled() : QFileInfo(currentFile).baseName();
@@ -192,7 +191,7 @@ unsigned int MainWindow::askSaveChanges()
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
     box.setDefaultButton(QMessageBox::Yes);
     const int answer = box.exec();
-    if (answer == QMessageBox::Yes)
-        save();
+    if (answer == QMessageBox::Yes && !save())
+        return QMessageBox::Cancel;
     return unsigned(answer);
 }

@@ -35,6 +35,7 @@ private slots:
     void loadAsksAboutChangesFirst();
     void yesWithACancelledSaveDialogGoesOnLoading();
     void yesSavesTheCurrentFileBeforeLoading();
+    void yesWhoseSavingFailsStopsLoadingAndClosing();
     void openTakesTheMapsFolderAndRemembersTheChosenOne();
     void openCancelledChangesNothing();
     void saveOfUntitledAsksForAName();
@@ -205,6 +206,34 @@ void MainWindowDocumentsTest::yesSavesTheCurrentFileBeforeLoading()
     window.loadFile(second);
     QVERIFY(QFile::exists(old));
     QCOMPARE(window.campaignId, 3U);
+}
+
+void MainWindowDocumentsTest::yesWhoseSavingFailsStopsLoadingAndClosing()
+{
+    const QString gone = fixture->game.addCampaign("gone.e3c", tiny::campaign(24, {{}, {}, {}}));
+    MainWindow window(nullptr);
+    window.loadFile(gone);
+    EditorData::info.modified = true;
+    QVERIFY(QFile::remove(gone));
+    QVERIFY(QDir().mkdir(gone));
+    const ExpectedBox failure{"Error", "Cannot write file " + gone + ":\nIs a directory.",
+                              QMessageBox::Warning};
+    {
+        NextDialog question(boxAnswer(saveQuestion("gone", QMessageBox::Yes)));
+        NextDialog told(boxAnswer(failure));
+        window.loadFile(second);
+        QVERIFY(told.came());
+    }
+    QCOMPARE(window.campaignId, 24U);
+    QVERIFY(EditorData::info.modified);
+    {
+        NextDialog question(boxAnswer(saveQuestion("gone", QMessageBox::Yes)));
+        NextDialog told(boxAnswer(failure));
+        QCloseEvent event;
+        QApplication::sendEvent(&window, &event);
+        QVERIFY(!event.isAccepted());
+    }
+    QVERIFY(QDir().rmdir(gone));
 }
 
 void MainWindowDocumentsTest::openTakesTheMapsFolderAndRemembersTheChosenOne()
