@@ -6,8 +6,13 @@
 #include <QString>
 
 #include <cstdio>
+#include <filesystem>
+#include <string>
+#include <vector>
 
 extern "C" int run(int argc, char **argv);
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -22,6 +27,17 @@ constexpr const char *helpText =
     "  --version        show the version and end\n"
     "\n"
     "The environment variable CMPED_GAME_DIR names another game folder.\n";
+
+// The editor remembers files by their path, so a name that only means something in this folder is
+// made one that does everywhere. What names no file here is left alone: it may be an option.
+std::string withWholePath(const char *argument)
+{
+    std::error_code unknown;
+    if (argument[0] == '-' || !fs::exists(argument, unknown))
+        return argument;
+    const fs::path whole = fs::absolute(argument, unknown);
+    return unknown ? std::string(argument) : whole.lexically_normal().string();
+}
 
 int fail(const std::string &message)
 {
@@ -46,7 +62,12 @@ int main(int argc, char **argv)
     }
     if (!setLocaleCodec(QString::fromLatin1(options.encoding.c_str())))
         return fail("unknown encoding '" + options.encoding + "'");
-    const int count = int(options.editorArguments.size());
-    options.editorArguments.push_back(nullptr); // as main's own list ends
-    return run(count, options.editorArguments.data());
+    std::vector<std::string> arguments{options.editorArguments.front()};
+    for (size_t i = 1; i < options.editorArguments.size(); ++i)
+        arguments.push_back(withWholePath(options.editorArguments[i]));
+    std::vector<char *> list;
+    for (std::string &argument : arguments)
+        list.push_back(argument.data());
+    list.push_back(nullptr); // as main's own list ends
+    return run(int(arguments.size()), list.data());
 }

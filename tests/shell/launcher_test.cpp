@@ -3,7 +3,9 @@
 #include "tests/support/child_process.h"
 #include "tests/support/tiny_game.h"
 
+#include <QFileInfo>
 #include <QProcess>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -22,6 +24,7 @@ private slots:
     void wrongEncodingEndsWithAMessage_data();
     void wrongEncodingEndsWithAMessage();
     void startsTheEditorAndEndsOnSigterm();
+    void relativeFileIsRememberedByItsWholePath();
     void libraryExportsRunAlone();
 };
 
@@ -46,6 +49,15 @@ QByteArrayList editorArguments(QByteArrayList arguments)
     for (const char *argument : readLauncherOptions(int(argv.size()), argv.data()).editorArguments)
         left << argument;
     return left;
+}
+
+QProcessEnvironment editorEnvironment(const tiny::Game &game, const QTemporaryDir &settings)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("CMPED_GAME_DIR", game.path());
+    environment.insert("XDG_CONFIG_HOME", settings.path());
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    return environment;
 }
 
 } // namespace
@@ -129,12 +141,8 @@ void LauncherTest::startsTheEditorAndEndsOnSigterm()
 {
     const tiny::Game game("Language=0\n");
     const QTemporaryDir settings;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("CMPED_GAME_DIR", game.path());
-    environment.insert("XDG_CONFIG_HOME", settings.path());
-    environment.insert("QT_QPA_PLATFORM", "offscreen");
     QProcess editor;
-    editor.setProcessEnvironment(environment);
+    editor.setProcessEnvironment(editorEnvironment(game, settings));
     editor.start(builtProgram("cmped"), {"--encoding", "windows-1251"});
     QVERIFY(editor.waitForStarted());
     QTRY_VERIFY_WITH_TIMEOUT(catches(editor.processId(), SIGTERM), 30000);
@@ -145,6 +153,23 @@ void LauncherTest::startsTheEditorAndEndsOnSigterm()
     QFile written(game.filePath("Ravn_settings.ini"));
     QVERIFY(written.open(QIODevice::ReadOnly));
     QCOMPARE(written.readAll(), QByteArray("[Global Settings]\r\n\r\nLanguage=0\r\n\r\n\r\n"));
+}
+
+void LauncherTest::relativeFileIsRememberedByItsWholePath()
+{
+    tiny::Game game("Language=0\n");
+    const QString campaign = game.addCampaign("near.e3c", tiny::campaign(24, {{}, {}, {}}));
+    const QTemporaryDir settings;
+    QProcess editor;
+    editor.setProcessEnvironment(editorEnvironment(game, settings));
+    editor.setWorkingDirectory(QFileInfo(campaign).path());
+    editor.start(builtProgram("cmped"), {"./near.e3c"});
+    QVERIFY(editor.waitForStarted());
+    QTRY_VERIFY_WITH_TIMEOUT(catches(editor.processId(), SIGTERM), 30000);
+    editor.terminate();
+    QVERIFY(editor.waitForFinished());
+    const QSettings recent(settings.filePath("cmped_info.conf"), QSettings::NativeFormat);
+    QCOMPARE(recent.value("recentFileList").toStringList(), QStringList{campaign});
 }
 
 void LauncherTest::libraryExportsRunAlone()
