@@ -118,8 +118,6 @@ a_dropped_file_is_opened() {
     pass "the first of several dropped files is opened"
 }
 
-menu_is_open() { [ "$(xdotool search --onlyvisible --class cmped | wc -l)" -ge 2 ]; }
-
 a_recent_file_is_opened_from_the_menu() {
     xdotool mousemove --window "$window" 20 12 click 1
     until_true menu_is_open || fail "the menu did not open"
