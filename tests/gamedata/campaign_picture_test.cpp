@@ -1,6 +1,6 @@
 #include "gamedata/campaign_picture.h"
-#include "tests/support/picture_records.h"
 #include "tests/gamedata/region_masks.h"
+#include "tests/support/picture_records.h"
 #include "tests/support/report_recorder.h"
 
 #include <QTest>

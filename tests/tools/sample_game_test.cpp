@@ -207,10 +207,8 @@ void SampleGameTest::textTablesHoldTheirRows_data()
                         << "Far Lynx Lair";
     row("CmpEditr.txt") << 2 << 0 << 1 << any << 61 << "Eldmark Saga Campaign Editor"
                         << "Cancel";
-    row("CmpEdCmd.txt")
-        << 2 << 0 << 1 << any << 22
-        << "Double-click a region to edit it."
-        << "Take translated texts back.";
+    row("CmpEdCmd.txt") << 2 << 0 << 1 << any << 22 << "Double-click a region to edit it."
+                        << "Take translated texts back.";
     row("CmpMovie.txt") << 0 << 0 << 1 << any << 16 << "Rider at Dawn"
                         << "The Last Camp";
     row("CmpMusic.txt") << 0 << 1 << 1 << any << 49 << "River March"
