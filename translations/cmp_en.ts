@@ -211,6 +211,46 @@ Ravn_settings.ini must be in Eldmark root folder.</translation>
         <source>Expert</source>
         <translation>Expert</translation>
     </message>
+    <message>
+        <source>Player %1 (%2)</source>
+        <translation>Player %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Most powerful hero</source>
+        <translation>Most powerful hero</translation>
+    </message>
+    <message>
+        <source>Generated hero</source>
+        <translation>Generated hero</translation>
+    </message>
+    <message>
+        <source>Random hero</source>
+        <translation>Random hero</translation>
+    </message>
+    <message>
+        <source> (in town)</source>
+        <translation> (in town)</translation>
+    </message>
+    <message>
+        <source> (on map)</source>
+        <translation> (on map)</translation>
+    </message>
+    <message>
+        <source>%1 — %2</source>
+        <translation>%1 — %2</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Empty</translation>
+    </message>
+    <message>
+        <source>%1. Empty</source>
+        <translation>%1. Empty</translation>
+    </message>
+    <message>
+        <source>No scenario</source>
+        <translation>No scenario</translation>
+    </message>
 </context>
 <context>
     <name>newcampaign</name>

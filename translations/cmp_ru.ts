@@ -211,6 +211,46 @@ Ravn_settings.ini must be in Eldmark root folder.</source>
         <source>Expert</source>
         <translation>Эксперт</translation>
     </message>
+    <message>
+        <source>Player %1 (%2)</source>
+        <translation>Игрок %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Most powerful hero</source>
+        <translation>Самый сильный герой</translation>
+    </message>
+    <message>
+        <source>Generated hero</source>
+        <translation>Созданный герой</translation>
+    </message>
+    <message>
+        <source>Random hero</source>
+        <translation>Случайный герой</translation>
+    </message>
+    <message>
+        <source> (in town)</source>
+        <translation> (в городе)</translation>
+    </message>
+    <message>
+        <source> (on map)</source>
+        <translation> (на карте)</translation>
+    </message>
+    <message>
+        <source>%1 — %2</source>
+        <translation>%1 — %2</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Пусто</translation>
+    </message>
+    <message>
+        <source>%1. Empty</source>
+        <translation>%1. Пусто</translation>
+    </message>
+    <message>
+        <source>No scenario</source>
+        <translation>Нет сценария</translation>
+    </message>
 </context>
 <context>
     <name>newcampaign</name>

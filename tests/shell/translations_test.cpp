@@ -83,9 +83,9 @@ void TranslationsTest::everyTextIsTranslated()
     const QTemporaryDir folder;
     const QString found = folder.filePath("found.ts");
     const ChildResult result =
-        runChild(CMPED_LUPDATE,
-                 {"-silent", sourceFile("gamedata"), sourceFile("document"), sourceFile("shell"),
-                  sourceFile("campaign_dialogs"), sourceFile("forms"), "-ts", found});
+        runChild(CMPED_LUPDATE, {"-silent", sourceFile("gamedata"), sourceFile("document"),
+                                 sourceFile("shell"), sourceFile("campaign_dialogs"),
+                                 sourceFile("scenario"), sourceFile("forms"), "-ts", found});
     QVERIFY2(result.started && result.exitCode == 0, result.error.constData());
     const Messages used = messagesOf(found, true);
     QVERIFY(used.size() > 30);

@@ -1,0 +1,49 @@
+// The names that every dialog of a scenario shows: of heroes, players and scenarios; and which
+// heroes a map disables. Free functions without a state.
+//
+// Numbers beyond their table are absent entries: a hero, colour or region without a name, a player
+// without heroes, a scenario without a map. The texts are of the context QObject.
+#pragma once
+
+#include <QBitArray>
+#include <QString>
+
+class CampaignData;
+class QComboBox;
+class ScenarioData;
+
+// Hero numbers of bonuses and starting heroes that are no heroes of the game's table.
+constexpr unsigned short HeroIdMostPowerful = 0xFFFD; // the player's strongest hero
+constexpr unsigned short HeroIdGenerated = 0xFFFE;    // the one that the main town brings forth
+constexpr unsigned short HeroIdRandom = 0xFFFF;
+
+// The player's number, counted from 1, and the name of its colour.
+QString getFullPlayerName(unsigned int player);
+
+// The hero's name on the scenario's map if it has one there for this player, otherwise the game's,
+// and where it stands. Without `showPlace` a hero on the map goes without; all others keep theirs.
+QString getHeroName(ScenarioData *scenario, unsigned int player, unsigned short hero,
+                    bool showPlace);
+
+// Appends an item with the hero's name and place; its number is the item's data, an unsigned int
+// under Qt::UserRole.
+void addHeroToCombobox(QComboBox *box, ScenarioData *scenario, unsigned int player,
+                       unsigned int hero);
+// Appends the heroes that the player has on the map, in the map's order. With `withSpecial` the
+// strongest hero comes first, and the generated one if the player's town brings one forth.
+void addHeroesToCombobox(QComboBox *box, ScenarioData *scenario, unsigned int player,
+                         bool withSpecial);
+
+// A bit for each hero of the game's table, set unless the map allows or customises the hero. The
+// same for every player.
+QBitArray getDisabledHeroes(ScenarioData *scenario, unsigned int player);
+// Looks a hero up in what getDisabledHeroes answers; the three special numbers never are disabled.
+bool HeroIsDisabled(QBitArray &disabled, unsigned int hero);
+
+// A scenario by its map's file name: with the region's name on a campaign map, numbered from 1
+// without one. `campaignMap` is the key of EditorData::campaignInfo.
+QString getScenarioFilename(CampaignData *campaign, unsigned int campaignMap,
+                            unsigned int scenario);
+// A scenario by its map's title: with the region's name on a campaign map, numbered from 0 without
+// one.
+QString getScenarioName(CampaignData *campaign, unsigned int campaignMap, unsigned int scenario);
