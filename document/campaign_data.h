@@ -123,4 +123,11 @@ public:
     SaveResult saveTo(const QString &path);
     // The file's bytes in order: the packed header, then every map as imported.
     std::vector<QByteArray> toPieces();
+
+    // Clears bit `index` of every scenario's prerequisites. No bit moves: whoever takes a scenario
+    // out of the vector leaves the bits above it where they stood.
+    void removePrecondition(unsigned int index);
+    // Exchanges the bits a and b of every scenario's prerequisites, for two scenarios that change
+    // places in the vector. A bit that would come to stand past an array's end is dropped.
+    void switchPreconditions(unsigned int a, unsigned int b);
 };

@@ -1,0 +1,161 @@
+#include "document/prerequisites.h"
+
+#include "document/campaign_data.h"
+
+#include <QtAlgorithms>
+#include <QtEndian>
+
+#include <algorithm>
+#include <cstring>
+#include <map>
+#include <vector>
+
+namespace {
+
+constexpr std::size_t wordBits = 64;
+constexpr std::size_t wordBytes = sizeof(quint64);
+
+bool isSet(const QBitArray &bits, unsigned int index)
+{
+    return index < unsigned(bits.size()) && bits.testBit(int(index));
+}
+
+// Sixty-four bits from a multiple of that on, the first one lowest.
+quint64 wordOf(const QBitArray &bits, std::size_t word)
+{
+    const std::size_t bytes = (std::size_t(bits.size()) + 7) / 8;
+    const std::size_t offset = word * wordBytes;
+    quint64 raw = 0;
+    if (offset < bytes)
+        std::memcpy(&raw, bits.bits() + offset, std::min(wordBytes, bytes - offset));
+    return qFromLittleEndian(raw);
+}
+
+std::size_t wordsFor(std::size_t bits)
+{
+    return (bits + wordBits - 1) / wordBits;
+}
+
+// Calls `visit` with the number of each bit set in a word that begins with bit `first`.
+template<typename Visit>
+void forEachBit(quint64 word, std::size_t first, Visit visit)
+{
+    for (; word != 0; word &= word - 1)
+        visit(first + qCountTrailingZeroBits(word));
+}
+
+// The graph with its arrows turned around. Only what is asked for is made, 64 scenarios at a time:
+// the walk is run once for each scenario that requires nothing, and most of those lead nowhere.
+class Dependents
+{
+public:
+    explicit Dependents(const std::vector<ScenarioData> &scenarios)
+        : m_scenarios(scenarios), m_words(wordsFor(scenarios.size()))
+    {
+    }
+
+    std::size_t words() const { return m_words; }
+
+    // A bit for each scenario that requires this one, in words() words.
+    const quint64 *of(std::size_t required)
+    {
+        std::vector<quint64> &group = m_groups[required / wordBits];
+        if (group.empty())
+            group = turnedAround(required / wordBits);
+        return group.data() + required % wordBits * m_words;
+    }
+
+private:
+    std::vector<quint64> turnedAround(std::size_t word) const
+    {
+        std::vector<quint64> group(wordBits * m_words);
+        for (std::size_t row = 0; row < m_scenarios.size(); ++row) {
+            quint64 *column = group.data() + row / wordBits;
+            const quint64 mark = quint64(1) << row % wordBits;
+            forEachBit(wordOf(m_scenarios[row].prerequisites, word), 0,
+                       [&](std::size_t bit) { column[bit * m_words] |= mark; });
+        }
+        return group;
+    }
+
+    const std::vector<ScenarioData> &m_scenarios;
+    std::size_t m_words;
+    std::map<std::size_t, std::vector<quint64>> m_groups;
+};
+
+} // namespace
+
+void CampaignData::removePrecondition(unsigned int index)
+{
+    for (ScenarioData &scenario : scenarios) {
+        if (isSet(scenario.prerequisites, index)) // an array without the bit stays shared
+            scenario.prerequisites.clearBit(int(index));
+    }
+}
+
+void CampaignData::switchPreconditions(unsigned int a, unsigned int b)
+{
+    for (ScenarioData &scenario : scenarios) {
+        QBitArray &bits = scenario.prerequisites;
+        const bool hadA = isSet(bits, a);
+        const bool hadB = isSet(bits, b);
+        if (hadA == hadB)
+            continue;
+        bits.clearBit(int(hadA ? a : b));
+        const unsigned int place = hadA ? b : a;
+        if (place < unsigned(bits.size()))
+            bits.setBit(int(place));
+    }
+}
+
+// In both walks a whole word of arrows is held at once against the scenarios seen: 30,000 that all
+// require each other have 900 million arrows.
+
+bool isReferencedBy(CampaignData *campaign, unsigned int target, unsigned int scenario)
+{
+    const std::vector<ScenarioData> &scenarios = campaign->scenarios;
+    std::vector<quint64> seen(wordsFor(scenarios.size()));
+    std::vector<std::size_t> open{scenario};
+    while (!open.empty()) {
+        const std::size_t index = open.back();
+        open.pop_back();
+        if (index >= scenarios.size())
+            continue;
+        const QBitArray &bits = scenarios[index].prerequisites;
+        if (isSet(bits, target))
+            return true;
+        for (std::size_t word = 0; word < seen.size(); ++word) {
+            const quint64 fresh = wordOf(bits, word) & ~seen[word];
+            seen[word] |= fresh;
+            forEachBit(fresh, word * wordBits, [&](std::size_t found) { open.push_back(found); });
+        }
+    }
+    return false;
+}
+
+void addAllWithPrecondition(CampaignData &campaign, int index, std::set<ScenarioData *> &result)
+{
+    std::vector<ScenarioData> &scenarios = campaign.scenarios;
+    Dependents dependents(scenarios);
+    if (dependents.words() == 0)
+        return;
+    std::vector<quint64> seen(dependents.words());
+    for (const ScenarioData *scenario : result) {
+        const auto place = std::size_t(scenario - scenarios.data());
+        seen[place / wordBits] |= quint64(1) << place % wordBits;
+    }
+
+    std::vector<std::size_t> open{unsigned(index)};
+    while (!open.empty()) {
+        const quint64 *column = dependents.of(open.back());
+        open.pop_back();
+        for (std::size_t word = 0; word < seen.size(); ++word) {
+            const quint64 fresh = column[word] & ~seen[word];
+            seen[word] |= fresh;
+            forEachBit(fresh, word * wordBits, [&](std::size_t found) {
+                result.insert(&scenarios[found]);
+                open.push_back(found);
+            });
+        }
+    }
+}
