@@ -7,6 +7,7 @@
 #include "ui_ScenarioBrowser.h"
 
 #include <QAction>
+#include <QGraphicsItem>
 #include <QLabel>
 #include <QMenu>
 #include <QMouseEvent>
@@ -38,6 +39,10 @@ void MyQGraphicsView::showContextMenu(const QPoint &pos)
     connect(&properties, &QAction::triggered, scenarioProperties, &QAction::trigger);
     menu.addAction(&properties);
     menu.exec(viewport()->mapToGlobal(pos));
+    // The menu has taken the release that belongs to the press in front of it. The region that
+    // still waits for it would swallow the next click.
+    if (QGraphicsItem *pressed = scene() ? scene()->mouseGrabberItem() : nullptr)
+        pressed->ungrabMouse();
 }
 
 void MyQGraphicsView::enterEvent(QEvent *event)

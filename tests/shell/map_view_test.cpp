@@ -50,6 +50,7 @@ private slots:
     void missingMasksEndTheProcess();
     void colourPastTheTableEndsTheProcess();
     void impossiblePictureEndsTheProcess();
+    void clickBehindTheContextMenuSelects();
     void rightDoubleClickIsIgnored();
     void doubleClickOpensTheScenario_data();
     void doubleClickOpensTheScenario();
@@ -330,6 +331,22 @@ void MapViewTest::impossiblePictureEndsTheProcess()
     QCOMPARE(recorder.errors.size(), 1);
     QCOMPARE(recorder.errors[0].title, QString("Error"));
     QCOMPARE(recorder.errors[0].text, QString("Unable to generate image"));
+}
+
+void MapViewTest::clickBehindTheContextMenuSelects()
+{
+    MainWindow window(nullptr);
+    QVERIFY(show(window));
+    const auto regions = regionsOf(window);
+    QWidget *viewport = mapView(window)->viewport();
+    closeNextMenu(&window);
+    QTest::mousePress(window.windowHandle(), Qt::RightButton, Qt::NoModifier,
+                      viewport->mapTo(&window, QPoint(210, 310)));
+    QVERIFY(regions[2]->isSelected);
+    QWidget menuThatTookTheRelease;
+    QTest::mouseRelease(&menuThatTookTheRelease, Qt::RightButton);
+    clickOn(viewport, QPoint(70, 65));
+    QVERIFY(regions[1]->isSelected);
 }
 
 void MapViewTest::rightDoubleClickIsIgnored()
