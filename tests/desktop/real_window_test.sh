@@ -54,6 +54,8 @@ picture() { import -window "$window" rgb:- | sha256sum; }
 picture_is_not() { [ "$(picture)" != "$1" ]; }
 size() { xdotool getwindowgeometry --shell "$window" | grep -E '^(WIDTH|HEIGHT)=' | tr '\n' ' '; }
 size_is() { [ "$(size)" = "$1" ]; }
+menu_is_open() { [ "$(xdotool search --onlyvisible --class cmped | wc -l)" -ge 2 ]; }
+menu_is_closed() { ! menu_is_open; }
 size_is_not() { [ "$(size)" != "$1" ]; }
 
 # The picture once nothing moves any more.
@@ -66,6 +68,13 @@ still_picture() {
         sleep 0.1
     done
     echo "$now"
+}
+
+# The map's frame is dark, the bars above it are light.
+first_row_of_the_map() {
+    still_picture >/dev/null
+    import -window "$window" -crop 1x200+230+0 -depth 8 gray:- | od -An -v -tu1 -w1 |
+        awk '$1 < 120 { print NR - 1; exit }'
 }
 
 # click X Y [BUTTON]: at this point of the campaign map.
@@ -88,8 +97,32 @@ regions_are_selected_by_both_buttons() {
 
     click 320 490 3
     until_true picture_is_not "$selected" || fail "the right button changed nothing"
+    until_true menu_is_open || fail "the right button showed no menu"
     xdotool key Escape
+    until_true menu_is_closed || fail "Escape does not close the menu"
     pass "the right button selects a region and shows its menu"
+}
+
+# picture_after X Y: of the map once another region, the one under this point, is selected.
+picture_after() {
+    local before
+    before=$(still_picture)
+    click "$1" "$2"
+    until_true picture_is_not "$before" || fail "a click at $1, $2 changed nothing"
+    still_picture
+}
+
+# In the sample campaign the lighthouse isle, the last region, lies over the edge of the striped
+# one beside it, and its picture has transparent corners over that one too.
+overlaps_and_transparent_corners_go_to_the_right_region() {
+    local neighbour isle
+    neighbour=$(picture_after 200 100)
+    isle=$(picture_after 285 95)
+    [ "$isle" != "$neighbour" ] || fail "the isle can't be selected"
+    [ "$(picture_after 200 100)" = "$neighbour" ] || fail "the isle's neighbour can't be selected again"
+    [ "$(picture_after 249 102)" = "$isle" ] || fail "the region on top does not take the click"
+    [ "$(picture_after 248 110)" = "$neighbour" ] || fail "a transparent corner takes the click"
+    pass "the region on top takes a click, its transparent corner does not"
 }
 
 saving_writes_the_expected_file() {
@@ -165,15 +198,13 @@ until_true find_window sample.e3c || fail "the window did not come up"
 find_window sample.e3c
 pass "the window came up with the campaign's name in its title"
 
-# The map is 600 pixels high; menu and tool bar stand above it, the status bar below.
-eval "$(xdotool getwindowgeometry --shell "$window")"
-map_top=$((HEIGHT > 685 ? HEIGHT - 630 : 55))
+map_top=$(first_row_of_the_map)
+[ -n "$map_top" ] || fail "no map in the window"
 
 regions_are_selected_by_both_buttons
+overlaps_and_transparent_corners_go_to_the_right_region
 saving_writes_the_expected_file
 a_dropped_file_is_opened
-menu_is_open() { [ "$(xdotool search --onlyvisible --class cmped | wc -l)" -ge 2 ]; }
-
 a_recent_file_is_opened_from_the_menu
 sizes_come_and_go
 closing_writes_settings_and_recent_files
