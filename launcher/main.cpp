@@ -66,6 +66,7 @@ int main(int argc, char **argv)
     for (size_t i = 1; i < options.editorArguments.size(); ++i)
         arguments.push_back(withWholePath(options.editorArguments[i]));
     std::vector<char *> list;
+    list.reserve(arguments.size() + 1);
     for (std::string &argument : arguments)
         list.push_back(argument.data());
     list.push_back(nullptr); // as main's own list ends

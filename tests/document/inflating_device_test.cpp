@@ -51,7 +51,7 @@ void InflatingDeviceTest::aSmallReadTouchesOnlyTheBeginning()
     source.open(QIODevice::ReadOnly);
     InflatingDevice device(&source, Format::GzipMember);
     QCOMPARE(device.read(100), samples::noise(1000000).left(100));
-    QVERIFY(source.pos() <= 64 * 1024);
+    QVERIFY(source.pos() <= 65536);
 }
 
 void InflatingDeviceTest::plainBytesPassExceptAsAnEmbeddedMap()

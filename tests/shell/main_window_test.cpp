@@ -259,7 +259,9 @@ void MainWindowTest::statusBarHoldsHintLineAndRegion()
     QCOMPARE(region->font().pointSize(), 8);
     QCOMPARE(hint->textFormat(), Qt::PlainText);
     QFrame *line = nullptr;
-    const auto frames = window.findChild<QStatusBar *>("statusBar")->findChildren<QFrame *>();
+    const auto *statusBar = window.findChild<QStatusBar *>("statusBar");
+    QVERIFY(statusBar);
+    const auto frames = statusBar->findChildren<QFrame *>();
     for (QFrame *frame : frames) {
         if (frame->frameShape() == QFrame::VLine)
             line = frame;

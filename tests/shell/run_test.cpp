@@ -164,11 +164,8 @@ void RunTest::unknownCodecEndsTheProcess()
     const ChildResult result = start(game);
     QVERIFY(result.exitedNormally);
     QCOMPARE(result.exitCode, 1);
-    QCOMPARE(columns(result, "box"),
-             QStringList({"Error",
-                          "Error in Ravn_Settings.ini: field \"Ravn.dat Text Encoding\" is "
-                          "invalid.",
-                          "3", "1024", "0", "none"}));
+    const QString text = "Error in Ravn_Settings.ini: field \"Ravn.dat Text Encoding\" is invalid.";
+    QCOMPARE(columns(result, "box"), QStringList({"Error", text, "3", "1024", "0", "none"}));
     QVERIFY(columns(result, "window").isEmpty());
 }
 
