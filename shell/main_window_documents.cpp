@@ -127,9 +127,9 @@ void MainWindow::loadFile(const QString &path)
     refreshCampaignView();
     cursor.restore();
     setCurrentFile(path);
-    setWindowTitle(tr("%1 - %2").arg(strippedName(path), cmpEditorTitle()));
-    updateRegionLabel();
     EditorData::info.modified = false;
+    updateWindowTitle();
+    updateRegionLabel();
 }
 
 bool MainWindow::save()

@@ -21,6 +21,13 @@ QString untitledFile()
     return QStringLiteral("Untitled.e3c");
 }
 
+// A text as a title bar shows it: Qt takes a single "[*]" for the place of its own modified mark.
+QString forTitleBar(QString text)
+{
+    const QString place = QStringLiteral("[*]");
+    return text.replace(place, place + place);
+}
+
 } // namespace
 
 void MainWindow::refreshCampaignView()
@@ -90,7 +97,7 @@ void MainWindow::updateRegionLabel()
 
 void MainWindow::resetWindowTitle()
 {
-    setWindowTitle(tr("%1 - %2").arg(untitledFile(), cmpEditorTitle()));
+    setWindowTitle(forTitleBar(tr("%1 - %2").arg(untitledFile(), cmpEditorTitle())));
 }
 
 void MainWindow::updateWindowTitle()
@@ -100,5 +107,6 @@ void MainWindow::updateWindowTitle()
         return;
     }
     const QString mark = EditorData::info.modified ? QStringLiteral("*") : QString();
-    setWindowTitle(tr("%1%3 - %2").arg(strippedName(currentFile), cmpEditorTitle(), mark));
+    setWindowTitle(
+        forTitleBar(tr("%1%3 - %2").arg(strippedName(currentFile), cmpEditorTitle(), mark)));
 }

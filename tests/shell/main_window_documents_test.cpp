@@ -5,6 +5,7 @@
 
 #include <QCloseEvent>
 #include <QPushButton>
+#include <QWindow>
 
 namespace {
 
@@ -47,6 +48,8 @@ private slots:
     void saveOnAFullDiskKeepsTheOldFile();
     void chosenFolderIsKeptAsUtf8();
     void titleMarksChangesOfNamedFilesOnly();
+    void titleShowsTheWholeName_data();
+    void titleShowsTheWholeName();
     void closeAsksAboutChanges_data();
     void closeAsksAboutChanges();
     void closeOfUnchangedAsksNothing();
@@ -413,6 +416,32 @@ void MainWindowDocumentsTest::titleMarksChangesOfNamedFilesOnly()
     QCOMPARE(window.windowTitle(), "first.e3c* - " + title);
     window.resetWindowTitle();
     QCOMPARE(window.windowTitle(), "Untitled.e3c - " + title);
+}
+
+void MainWindowDocumentsTest::titleShowsTheWholeName_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("Qt's place for a mark") << "a[*]b.e3c";
+    QTest::newRow("two of them") << "a[*][*]b.e3c";
+    QTest::newRow("two apart") << "[*]a[*].e3c";
+    QTest::newRow("numbers of arguments") << "%1%2%3.e3c";
+}
+
+// As the system is told it, for windowTitle() is what Qt has yet to make that from.
+void MainWindowDocumentsTest::titleShowsTheWholeName()
+{
+    QFETCH(QString, name);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(name);
+    QVERIFY(QFile::copy(first, path));
+    MainWindow window(nullptr);
+    window.show();
+    window.loadFile(path);
+    QCOMPARE(window.windowHandle()->title(), name + " - " + title);
+    EditorData::info.modified = true;
+    window.updateWindowTitle();
+    QCOMPARE(window.windowHandle()->title(), name + "* - " + title);
+    EditorData::info.modified = false;
 }
 
 void MainWindowDocumentsTest::closeAsksAboutChanges_data()
