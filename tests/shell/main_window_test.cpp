@@ -1,6 +1,8 @@
 // The window itself: its form, menus, hints, size and the dialog about the program.
 #include "tests/shell/window_fixture.h"
 
+#include <algorithm>
+
 #include <QDialogButtonBox>
 #include <QLayout>
 #include <QMenu>
@@ -258,15 +260,14 @@ void MainWindowTest::statusBarHoldsHintLineAndRegion()
     QCOMPARE(hint->font().pointSize(), 8);
     QCOMPARE(region->font().pointSize(), 8);
     QCOMPARE(hint->textFormat(), Qt::PlainText);
-    QFrame *line = nullptr;
     const auto *statusBar = window.findChild<QStatusBar *>("statusBar");
     QVERIFY(statusBar);
     const auto frames = statusBar->findChildren<QFrame *>();
-    for (QFrame *frame : frames) {
-        if (frame->frameShape() == QFrame::VLine)
-            line = frame;
-    }
-    QVERIFY(line);
+    const auto found = std::find_if(frames.begin(), frames.end(), [](const QFrame *frame) {
+        return frame->frameShape() == QFrame::VLine;
+    });
+    QVERIFY(found != frames.end());
+    const QFrame *line = *found;
     QCOMPARE(int(line->frameShape()), 5);
     QCOMPARE(int(line->frameShadow()), 0x30);
     QVERIFY(line->x() > hint->x() && line->x() < region->x());
