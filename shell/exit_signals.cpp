@@ -8,7 +8,8 @@
 
 namespace {
 
-constexpr std::array<int, 3> exitSignals{SIGTERM, SIGHUP, SIGINT};
+// SIGTERM is last: once it is answered, so are the others.
+constexpr std::array<int, 3> exitSignals{SIGINT, SIGHUP, SIGTERM};
 
 // The writing end of the pipe: the one thing that a handler may touch.
 volatile std::sig_atomic_t writingEnd = -1;
@@ -20,14 +21,18 @@ void wakeEventLoop(int)
     [[maybe_unused]] const ssize_t written = ::write(writingEnd, &byte, 1);
 }
 
+// A signal that is ignored stays ignored: whoever started the editor by "nohup" wants it to go on.
 void setHandlers(void (*handler)(int))
 {
     struct sigaction action = {};
     action.sa_handler = handler;
     action.sa_flags = SA_RESTART;
     sigemptyset(&action.sa_mask);
-    for (const int number : exitSignals)
-        sigaction(number, &action, nullptr);
+    for (const int number : exitSignals) {
+        struct sigaction now = {};
+        if (sigaction(number, nullptr, &now) == 0 && now.sa_handler != SIG_IGN)
+            sigaction(number, &action, nullptr);
+    }
 }
 
 } // namespace

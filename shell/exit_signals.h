@@ -8,8 +8,9 @@
 #include <array>
 #include <memory>
 
-// Answers SIGTERM, SIGHUP and SIGINT while it lives; there is one at a time. Should the system
-// have no pipe left, the signals keep their usual effect.
+// Answers SIGTERM, SIGHUP and SIGINT while it lives, but for those that the editor was started
+// to ignore; there is one at a time. Should the system have no pipe left, the signals keep their
+// usual effect.
 class ExitSignals : public QObject
 {
     Q_OBJECT

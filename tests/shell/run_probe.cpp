@@ -127,6 +127,9 @@ Q_COREAPP_STARTUP_FUNCTION(startLooking)
 
 int main(int argc, char **argv)
 {
+    // A test run in the background has some of them ignored, and the editor would leave it so.
+    for (const int number : {SIGTERM, SIGHUP, SIGINT})
+        std::signal(number, SIG_DFL);
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     return run(argc, argv);
 }
