@@ -36,7 +36,11 @@ std::string withWholePath(const char *argument)
     if (argument[0] == '-' || !fs::exists(argument, unknown))
         return argument;
     const fs::path whole = fs::absolute(argument, unknown);
-    return unknown ? std::string(argument) : whole.lexically_normal().string();
+    if (unknown)
+        return argument;
+    // Without its dots it is nicer to read, but behind a link ".." leads to another file.
+    const fs::path plain = whole.lexically_normal();
+    return (fs::equivalent(plain, whole, unknown) ? plain : whole).string();
 }
 
 int fail(const std::string &message)

@@ -3,6 +3,7 @@
 #include "tests/support/child_process.h"
 #include "tests/support/tiny_game.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 #include <QSettings>
@@ -24,7 +25,9 @@ private slots:
     void wrongEncodingEndsWithAMessage_data();
     void wrongEncodingEndsWithAMessage();
     void startsTheEditorAndEndsOnSigterm();
+    void ignoredSignalsStayIgnored();
     void relativeFileIsRememberedByItsWholePath();
+    void fileBehindALinkIsRememberedItself();
     void libraryExportsRunAlone();
 };
 
@@ -58,6 +61,23 @@ QProcessEnvironment editorEnvironment(const tiny::Game &game, const QTemporaryDi
     environment.insert("XDG_CONFIG_HOME", settings.path());
     environment.insert("QT_QPA_PLATFORM", "offscreen");
     return environment;
+}
+
+// The recent files once the editor was started in a folder with this argument, and ended.
+QStringList rememberedFiles(const tiny::Game &game, const QString &folder, const QString &argument)
+{
+    const QTemporaryDir settings;
+    QProcess editor;
+    editor.setProcessEnvironment(editorEnvironment(game, settings));
+    editor.setWorkingDirectory(folder);
+    editor.start(builtProgram("cmped"), {argument});
+    if (!editor.waitForStarted() ||
+        !QTest::qWaitFor([&] { return catches(editor.processId(), SIGTERM); }, 30000))
+        return {};
+    editor.terminate();
+    editor.waitForFinished();
+    const QSettings recent(settings.filePath("cmped_info.conf"), QSettings::NativeFormat);
+    return recent.value("recentFileList").toStringList();
 }
 
 } // namespace
@@ -155,21 +175,47 @@ void LauncherTest::startsTheEditorAndEndsOnSigterm()
     QCOMPARE(written.readAll(), QByteArray("[Global Settings]\r\n\r\nLanguage=0\r\n\r\n\r\n"));
 }
 
+// As "nohup" and a shell's background jobs have it.
+void LauncherTest::ignoredSignalsStayIgnored()
+{
+    const tiny::Game game("Language=0\n");
+    const QTemporaryDir settings;
+    QProcess editor;
+    editor.setProcessEnvironment(editorEnvironment(game, settings));
+    const auto before = std::signal(SIGHUP, SIG_IGN);
+    editor.start(builtProgram("cmped"), QStringList());
+    const bool started = editor.waitForStarted();
+    std::signal(SIGHUP, before);
+    QVERIFY(started);
+    QTRY_VERIFY_WITH_TIMEOUT(catches(editor.processId(), SIGTERM), 30000);
+    QVERIFY(!catches(editor.processId(), SIGHUP));
+    editor.terminate();
+    QVERIFY(editor.waitForFinished());
+    QCOMPARE(editor.exitStatus(), QProcess::NormalExit);
+}
+
 void LauncherTest::relativeFileIsRememberedByItsWholePath()
 {
     tiny::Game game("Language=0\n");
     const QString campaign = game.addCampaign("near.e3c", tiny::campaign(24, {{}, {}, {}}));
-    const QTemporaryDir settings;
-    QProcess editor;
-    editor.setProcessEnvironment(editorEnvironment(game, settings));
-    editor.setWorkingDirectory(QFileInfo(campaign).path());
-    editor.start(builtProgram("cmped"), {"./near.e3c"});
-    QVERIFY(editor.waitForStarted());
-    QTRY_VERIFY_WITH_TIMEOUT(catches(editor.processId(), SIGTERM), 30000);
-    editor.terminate();
-    QVERIFY(editor.waitForFinished());
-    const QSettings recent(settings.filePath("cmped_info.conf"), QSettings::NativeFormat);
-    QCOMPARE(recent.value("recentFileList").toStringList(), QStringList{campaign});
+    QCOMPARE(rememberedFiles(game, QFileInfo(campaign).path(), "./near.e3c"),
+             QStringList{campaign});
+}
+
+void LauncherTest::fileBehindALinkIsRememberedItself()
+{
+    tiny::Game game("Language=0\n");
+    const QString near = game.addCampaign("near.e3c", tiny::campaign(24, {{}, {}, {}}));
+    const QTemporaryDir elsewhere;
+    QVERIFY(QDir(elsewhere.path()).mkdir("sub"));
+    const QString far = elsewhere.filePath("near.e3c");
+    QVERIFY(QFile::copy(near, far));
+    const QString folder = QFileInfo(near).path();
+    QVERIFY(QFile::link(elsewhere.filePath("sub"), folder + "/link"));
+    const QStringList remembered = rememberedFiles(game, folder, "link/../near.e3c");
+    QCOMPARE(remembered.size(), 1);
+    QVERIFY(QDir::isAbsolutePath(remembered.first()));
+    QCOMPARE(QFileInfo(remembered.first()).canonicalFilePath(), QFileInfo(far).canonicalFilePath());
 }
 
 void LauncherTest::libraryExportsRunAlone()
