@@ -7,6 +7,7 @@ set -euo pipefail
 
 campaign=${1:+$(realpath -- "$1")}
 cd "$(dirname "$(realpath "$0")")"
+# shellcheck source=scripts/common.sh
 . scripts/common.sh
 
 game=$PWD/build/sample-game
@@ -25,8 +26,7 @@ make_sample_game() {
 
 # Leaves the window's id in `window`; gives up after a minute or when the editor has ended.
 wait_for_window() {
-    local i
-    for i in $(seq 300); do
+    for _ in $(seq 300); do
         window=$(xdotool search --onlyvisible --pid "$editor" --name '.e3c' 2>/dev/null | head -n 1) || true
         [ -n "$window" ] && return 0
         kill -0 "$editor" 2>/dev/null || die "The editor ended before its window came up; its log is in $log."
@@ -37,8 +37,8 @@ wait_for_window() {
 
 # Takes pictures until two in a row are the same, so that a window half drawn is never kept.
 take_picture() {
-    local before='' now i
-    for i in $(seq 50); do
+    local before='' now
+    for _ in $(seq 50); do
         import -frame -window "$window" "$picture"
         now=$(import -frame -window "$window" rgb:- | sha256sum)
         [ "$now" = "$before" ] && return 0

@@ -6,6 +6,7 @@
 set -euo pipefail
 
 cd "$(dirname "$(realpath "$0")")"
+# shellcheck source=scripts/common.sh
 . scripts/common.sh
 
 run_tests() {

@@ -1,5 +1,6 @@
 # What start.sh and test.sh share: saying what is done, installing what is missing, building.
 # Sourced from the project's folder; not run by itself.
+# shellcheck shell=bash
 
 say() { printf '\n==> %s\n' "$*"; }
 
@@ -40,7 +41,7 @@ Under Debian these are the packages: $(wanted_packages | tr '\n' ' ')"
     local missing
     missing=$(missing_packages)
     [ -z "$missing" ] && return 0
-    say "Installing what is missing: $(echo $missing)"
+    say "Installing what is missing: $(tr '\n' ' ' <<<"$missing")"
     as_root env DEBIAN_FRONTEND=noninteractive apt-get update -q
     # shellcheck disable=SC2086
     as_root env DEBIAN_FRONTEND=noninteractive apt-get install -q -y --no-install-recommends $missing
@@ -50,8 +51,10 @@ Under Debian these are the packages: $(wanted_packages | tr '\n' ' ')"
 build() {
     local preset=$1
     shift
-    [ -e "build/$preset/build.ninja" ] || cmake --preset "$preset" >"/tmp/cmped-configure-$$.log" 2>&1 ||
-        { cat "/tmp/cmped-configure-$$.log" >&2; die "Configuring failed."; }
-    rm -f "/tmp/cmped-configure-$$.log"
+    if [ ! -e "build/$preset/build.ninja" ]; then
+        mkdir -p build
+        cmake --preset "$preset" >"build/configure-$preset.log" 2>&1 ||
+            { cat "build/configure-$preset.log" >&2; die "Configuring failed."; }
+    fi
     cmake --build --preset "$preset" ${1:+--target "$@"}
 }

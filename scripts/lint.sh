@@ -4,6 +4,7 @@
 set -euo pipefail
 
 cd "$(dirname "$(realpath "$0")")/.."
+# shellcheck source=scripts/common.sh
 . scripts/common.sh
 
 mapfile -t all < <(git ls-files '*.cpp' '*.h')
