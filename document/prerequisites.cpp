@@ -137,8 +137,6 @@ void addAllWithPrecondition(CampaignData &campaign, int index, std::set<Scenario
 {
     std::vector<ScenarioData> &scenarios = campaign.scenarios;
     Dependents dependents(scenarios);
-    if (dependents.words() == 0)
-        return;
     std::vector<quint64> seen(dependents.words());
     for (const ScenarioData *scenario : result) {
         const auto place = std::size_t(scenario - scenarios.data());
