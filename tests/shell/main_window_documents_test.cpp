@@ -5,7 +5,6 @@
 
 #include <QCloseEvent>
 #include <QPushButton>
-#include <QWindow>
 
 namespace {
 
@@ -47,9 +46,6 @@ private slots:
     void saveAtALimitKeepsTheOldFile();
     void saveOnAFullDiskKeepsTheOldFile();
     void chosenFolderIsKeptAsUtf8();
-    void titleMarksChangesOfNamedFilesOnly();
-    void titleShowsTheWholeName_data();
-    void titleShowsTheWholeName();
     void closeAsksAboutChanges_data();
     void closeAsksAboutChanges();
     void closeOfUnchangedAsksNothing();
@@ -400,48 +396,6 @@ void MainWindowDocumentsTest::chosenFolderIsKeptAsUtf8()
     QCOMPARE(QByteArray(ini->GetStringVal("Campaign Editor", "Path", "")), folder.toUtf8());
     NextDialog dialog(chooseFile("Open Map File", folder, "", ""));
     action(window, "actionOpen")->trigger();
-}
-
-void MainWindowDocumentsTest::titleMarksChangesOfNamedFilesOnly()
-{
-    MainWindow window(nullptr);
-    EditorData::info.modified = true;
-    window.updateWindowTitle();
-    QCOMPARE(window.windowTitle(), "Untitled.e3c - " + title);
-    EditorData::info.modified = false;
-    window.loadFile(first);
-    QCOMPARE(window.windowTitle(), "first.e3c - " + title);
-    EditorData::info.modified = true;
-    window.updateWindowTitle();
-    QCOMPARE(window.windowTitle(), "first.e3c* - " + title);
-    window.resetWindowTitle();
-    QCOMPARE(window.windowTitle(), "Untitled.e3c - " + title);
-}
-
-void MainWindowDocumentsTest::titleShowsTheWholeName_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("Qt's place for a mark") << "a[*]b.e3c";
-    QTest::newRow("two of them") << "a[*][*]b.e3c";
-    QTest::newRow("two apart") << "[*]a[*].e3c";
-    QTest::newRow("numbers of arguments") << "%1%2%3.e3c";
-}
-
-// As the system is told it, for windowTitle() is what Qt has yet to make that from.
-void MainWindowDocumentsTest::titleShowsTheWholeName()
-{
-    QFETCH(QString, name);
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(name);
-    QVERIFY(QFile::copy(first, path));
-    MainWindow window(nullptr);
-    window.show();
-    window.loadFile(path);
-    QCOMPARE(window.windowHandle()->title(), name + " - " + title);
-    EditorData::info.modified = true;
-    window.updateWindowTitle();
-    QCOMPARE(window.windowHandle()->title(), name + "* - " + title);
-    EditorData::info.modified = false;
 }
 
 void MainWindowDocumentsTest::closeAsksAboutChanges_data()
