@@ -15,7 +15,6 @@
 #include <cstdio>
 #include <functional>
 #include <malloc.h>
-#include <memory>
 #include <vector>
 
 #include <sys/mman.h>

@@ -1,7 +1,6 @@
 #include "gamedata/safe_save.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QSaveFile>
 
 #include <cerrno>

@@ -13,7 +13,6 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMessageBox>
-#include <QScrollBar>
 #include <QShortcut>
 
 #include <algorithm>
