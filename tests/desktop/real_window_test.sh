@@ -160,9 +160,9 @@ a_recent_file_is_opened_from_the_menu() {
 }
 
 sizes_come_and_go() {
-    local first picture_before
+    local first
     first=$(size)
-    picture_before=$(still_picture)
+    still_picture >/dev/null
     xdotool windowsize "$window" 380 500
     until_true size_is_not "$first" || fail "the window can't be made smaller"
     still_picture >/dev/null
