@@ -119,7 +119,8 @@ public:
 
     // Writes the newest format to the file of that name, silently and safely.
     void WriteToFile(QFile *file);
-    // The same, telling how it went.
+    // The same, telling how it went. What could not be read again isn't written: a campaign with
+    // more text than the reader takes, or on a map that the game's tables lack.
     SaveResult saveTo(const QString &path);
     // The file's bytes in order: the packed header, then every map as imported.
     std::vector<QByteArray> toPieces();

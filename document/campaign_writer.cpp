@@ -3,6 +3,7 @@
 #include "document/campaign_primitives.h"
 #include "document/campaign_records.h"
 #include "document/gzip_member.h"
+#include "gamedata/editor_data.h"
 #include "gamedata/limits.h"
 
 #include <QFile>
@@ -96,8 +97,12 @@ std::vector<QByteArray> CampaignData::toPieces()
     return Writer(*this).pieces();
 }
 
+// The file tells how many scenarios it has by its map's number alone, so of a campaign on a map
+// that the game's tables lack no scenario was read: to write it would empty the author's file.
 SaveResult CampaignData::saveTo(const QString &path)
 {
+    if (hasMap && EditorData::campaignInfo.count(mapId) == 0)
+        return {false, QObject::tr("The game has no campaign map %1").arg(mapId)};
     Writer writer(*this);
     const std::vector<QByteArray> pieces = writer.pieces();
     if (const int code = writer.fault())

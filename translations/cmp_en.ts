@@ -196,6 +196,10 @@ Ravn_settings.ini must be in Eldmark root folder.</translation>
 <context>
     <name>QObject</name>
     <message>
+        <source>The game has no campaign map %1</source>
+        <translation>The game has no campaign map %1</translation>
+    </message>
+    <message>
         <source>Incorrect or damaged file.</source>
         <translation>Incorrect or damaged file.</translation>
     </message>

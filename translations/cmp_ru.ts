@@ -196,6 +196,10 @@ Ravn_settings.ini must be in Eldmark root folder.</source>
 <context>
     <name>QObject</name>
     <message>
+        <source>The game has no campaign map %1</source>
+        <translation>В игре нет карты кампании %1</translation>
+    </message>
+    <message>
         <source>Incorrect or damaged file.</source>
         <translation>Неверный или повреждённый файл.</translation>
     </message>

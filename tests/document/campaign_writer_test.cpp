@@ -35,6 +35,7 @@ private slots:
     void thirtyThousandScenariosSurvive();
     void writesSilentlyToTheFilesName();
     void savingTellsHowItWent();
+    void savesNoCampaignOnAMapThatTheGameLacks();
     void savesNoMoreTextThanCanBeReadAgain_data();
     void savesNoMoreTextThanCanBeReadAgain();
 
@@ -370,6 +371,27 @@ void CampaignWriterTest::savingTellsHowItWent()
     const SaveResult failed = c.saveTo(m_folder.filePath("no/such/folder.e3c"));
     QVERIFY(!failed.ok);
     QVERIFY(!failed.error.isEmpty());
+}
+
+void CampaignWriterTest::savesNoCampaignOnAMapThatTheGameLacks()
+{
+    CampaignData c;
+    c.initDummyCampaign(3, true, 0, 0);
+    c.scenarios[1].regionText = "Months of work";
+    const QString path = m_folder.filePath("of_another_game.e3c");
+    QVERIFY(c.saveTo(path).ok);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray before = file.readAll();
+    EditorData::campaignInfo.erase(3);
+    CampaignData read;
+    QVERIFY(!read.readCampaign(&file));
+    QVERIFY(read.scenarios.empty());
+    const SaveResult failed = read.saveTo(path);
+    QVERIFY(!failed.ok);
+    QCOMPARE(failed.error, QString("The game has no campaign map 3"));
+    QVERIFY(file.seek(0));
+    QCOMPARE(file.readAll(), before);
 }
 
 void CampaignWriterTest::savesNoMoreTextThanCanBeReadAgain_data()
