@@ -61,6 +61,10 @@ run_on_virtual_display() {
     number=$(tr -d '\n' <"$number_file")
     [ -n "$number" ] || die "No virtual display could be started."
     export DISPLAY=:$number
+    for _ in $(seq 100); do
+        xdotool getmouselocation >/dev/null 2>&1 && break
+        sleep 0.1
+    done
     export SDL_AUDIODRIVER=dummy
     openbox >/dev/null 2>&1 &
     manager=$!

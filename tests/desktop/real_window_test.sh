@@ -42,8 +42,10 @@ until_true() {
 start_display() {
     Xvfb -displayfd 3 -screen 0 1024x900x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
     xvfb=$!
-    until_true test -s "$work/display" || fail "no virtual display"
-    export DISPLAY=:$(tr -d '\n' <"$work/display")
+    until_true grep -q '^[0-9]' "$work/display" || fail "no virtual display"
+    DISPLAY=:$(head -n 1 "$work/display")
+    export DISPLAY
+    until_true xdotool getmouselocation || fail "the virtual display $DISPLAY does not answer"
     openbox >/dev/null 2>&1 &
     manager=$!
 }
