@@ -9,6 +9,8 @@
 // CampaignData::removePrecondition and CampaignData::switchPreconditions are defined here too.
 #pragma once
 
+#include <QBitArray>
+
 #include <set>
 
 class CampaignData;
@@ -17,6 +19,19 @@ class ScenarioData;
 // True if `scenario` requires `target`, directly or through others. A scenario requires itself
 // only if it stands on a cycle.
 bool isReferencedBy(CampaignData *campaign, unsigned int target, unsigned int scenario);
+
+// A bit for each scenario that `scenario` requires, directly or through others: its own only if it
+// stands on a cycle.
+QBitArray requiredBy(const CampaignData &campaign, unsigned int scenario);
+
+// Whether `scenario` requires `required` directly, as its array says.
+bool hasPrerequisite(const ScenarioData &scenario, unsigned int required);
+// Sets or clears one bit. An array that ends before the bit is lengthened to set it.
+void setPrerequisite(ScenarioData &scenario, unsigned int required, bool on);
+
+// Gives every array one bit for each scenario; bits beyond are dropped. Scenarios that share an
+// array share the new one too, so thousands without prerequisites take no room.
+void resizePrerequisites(CampaignData &campaign);
 
 // Adds to `result` the scenarios that require scenario `index`, directly or through others. Those
 // in it already are not walked on from. All pointers lead into the campaign's vector, those given
