@@ -34,9 +34,7 @@ void MyQGraphicsView::showContextMenu(const QPoint &pos)
         return;
     QMenu menu;
     QAction properties(tr("Properties..."));
-    QAction *scenarioProperties = window->scenarioPropertiesAction();
-    properties.setEnabled(scenarioProperties->isEnabled());
-    connect(&properties, &QAction::triggered, scenarioProperties, &QAction::trigger);
+    connect(&properties, &QAction::triggered, window, &MainWindow::showScenarioPropertiesDlg);
     menu.addAction(&properties);
     menu.exec(viewport()->mapToGlobal(pos));
     // The menu has taken the release that belongs to the press in front of it. The region that
@@ -60,7 +58,7 @@ void MyQGraphicsView::mouseDoubleClickEvent(QMouseEvent *event)
         return;
     }
     if (MainWindow *window = mainWindow())
-        window->scenarioPropertiesAction()->trigger();
+        window->showScenarioPropertiesDlg();
 }
 
 void MyQGraphicsView::wheelEvent(QWheelEvent *event)

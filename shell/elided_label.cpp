@@ -1,25 +1,42 @@
-#include "shell/status_label.h"
+#include "shell/elided_label.h"
 
-#include "shell/dialog_look.h"
-
+#include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QToolTip>
 
-StatusLabel::StatusLabel(int widestRequest) : m_widestRequest(widestRequest)
+ElidedLabel::ElidedLabel(QWidget *parent) : QLabel(parent)
 {
-    setFont(editorFont());
     setTextFormat(Qt::PlainText);
 }
 
-QSize StatusLabel::minimumSizeHint() const
+void ElidedLabel::setWidestRequest(int width)
+{
+    m_widestRequest = width;
+    updateGeometry();
+}
+
+QSize ElidedLabel::minimumSizeHint() const
 {
     const QSize whole = sizeHint();
     return {qMin(whole.width(), m_widestRequest), whole.height()};
 }
 
-void StatusLabel::paintEvent(QPaintEvent *event)
+bool ElidedLabel::event(QEvent *event)
 {
-    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
+    if (event->type() != QEvent::ToolTip)
+        return QLabel::event(event);
+    // Said to be rich, for otherwise a name with markup in it would be taken for that.
+    const QString whole = shownText() == text()
+                              ? QString()
+                              : QStringLiteral("<qt>%1</qt>").arg(text().toHtmlEscaped());
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), whole, this);
+    return true;
+}
+
+void ElidedLabel::paintEvent(QPaintEvent *event)
+{
+    const QString shown = shownText();
     if (shown == text()) {
         QLabel::paintEvent(event);
         return;
@@ -27,4 +44,9 @@ void StatusLabel::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     style()->drawItemText(&painter, rect(), int(alignment()), palette(), isEnabled(), shown,
                           foregroundRole());
+}
+
+QString ElidedLabel::shownText() const
+{
+    return fontMetrics().elidedText(text(), Qt::ElideRight, width());
 }

@@ -1,22 +1,26 @@
-// A line of the status bar: asks for the room that its text takes, up to a limit, and ends in an
-// ellipsis where it gets less, so that no text of the game's widens the window.
+// A line of text that never widens its window: it asks for the room that the text takes, up to a
+// limit, ends in an ellipsis where it gets less, and then tells the whole text as its tool tip.
 #pragma once
 
 #include <QLabel>
 
-class StatusLabel : public QLabel
+class ElidedLabel : public QLabel
 {
     Q_OBJECT
 
 public:
-    // In pixels; a longer text is content with this.
-    explicit StatusLabel(int widestRequest);
+    explicit ElidedLabel(QWidget *parent = nullptr);
 
+    // In pixels; a longer text is content with this.
+    void setWidestRequest(int width);
     QSize minimumSizeHint() const override;
 
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    const int m_widestRequest;
+    QString shownText() const;
+
+    int m_widestRequest = 60;
 };

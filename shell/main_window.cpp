@@ -7,7 +7,7 @@
 #include "shell/campaign_map_view.h"
 #include "shell/dialog_look.h"
 #include "shell/drag_and_drop_handler.h"
-#include "shell/status_label.h"
+#include "shell/elided_label.h"
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
@@ -50,15 +50,22 @@ constexpr std::array<ToolTipRow, 12> toolTipRows{{
 }};
 
 // Commands whose dialogs the editor doesn't have yet.
-constexpr std::array<QAction * Ui_MainWindow::*, 7> unavailableActions{{
+constexpr std::array<QAction * Ui_MainWindow::*, 6> unavailableActions{{
     &Ui_MainWindow::actionExport_Texts,
     &Ui_MainWindow::actionImport_Texts,
     &Ui_MainWindow::actionRefresh_Scenario_Maps,
     &Ui_MainWindow::actionExport_Scenario_Maps,
     &Ui_MainWindow::campaignProperties,
-    &Ui_MainWindow::scenarioProperties,
     &Ui_MainWindow::actionConvertCmp,
 }};
+
+QLabel *statusLine(int widestRequest)
+{
+    auto *line = new ElidedLabel;
+    line->setWidestRequest(widestRequest);
+    line->setFont(editorFont());
+    return line;
+}
 
 // The length of the view along one side: what the window gained or lost since it fitted the map,
 // never more than the map. A negative length counts as very large, so it is capped as well.
@@ -112,8 +119,8 @@ void MainWindow::initActions()
 void MainWindow::initUI()
 {
     initialSize = size();
-    hintLabel = new StatusLabel(hintWidth);
-    regionLabel = new StatusLabel(regionWidth);
+    hintLabel = statusLine(hintWidth);
+    regionLabel = statusLine(regionWidth);
     mapBrowser = new MapBrowser(ui->stackedWidget, hintLabel);
     ui->stackedWidget->addWidget(mapBrowser);
     ui->stackedWidget->setCurrentWidget(mapBrowser);
@@ -140,6 +147,7 @@ void MainWindow::initSlotsAndSignals()
     connect(ui->actionSave, &QAction::triggered, this, &MainWindow::save);
     connect(ui->actionSave_As, &QAction::triggered, this, &MainWindow::saveAs);
     connect(ui->actionExit, &QAction::triggered, this, &MainWindow::quit);
+    connect(ui->scenarioProperties, &QAction::triggered, this, &MainWindow::openScenarioProperties);
     connect(ui->actionAbout, &QAction::triggered, this, &MainWindow::about);
     for (const ToolTipRow &row : toolTipRows)
         connect(ui.get()->*row.action, &QAction::hovered, this, &MainWindow::setTooltipToHintBar);
@@ -178,11 +186,6 @@ void MainWindow::switchScrollBars(Qt::ScrollBarPolicy policy)
 {
     mapBrowser->getGraphicsView()->setHorizontalScrollBarPolicy(policy);
     mapBrowser->getGraphicsView()->setVerticalScrollBarPolicy(policy);
-}
-
-QAction *MainWindow::scenarioPropertiesAction() const
-{
-    return ui->scenarioProperties;
 }
 
 void MainWindow::resizeEvent(QResizeEvent *event)

@@ -18,6 +18,7 @@ class MapBrowser;
 class QAction;
 class QApplication;
 class QLabel;
+class ScenarioInfo;
 class Ui_MainWindow;
 
 class MainWindow : public QMainWindow
@@ -57,8 +58,9 @@ public:
     // A path without its folders.
     QString strippedName(const QString &path);
 
-    // Opens the scenario of the selected region; the map offers it too.
-    QAction *scenarioPropertiesAction() const;
+    // Runs the dialog on the scenario of the selected region and, if it is accepted, takes its
+    // campaign over; a rejected one changes nothing.
+    void showScenarioPropertiesDlg();
 
     quint32 campaignId = 24;   // the campaign map on show
     quint32 currentRegion = 0; // the selected region
@@ -76,6 +78,7 @@ private slots:
     bool save();
     bool saveAs();
     void quit();
+    void openScenarioProperties();
     void about();
     void setTooltipToHintBar();
 
@@ -92,6 +95,7 @@ private:
     QLabel *regionLabel = nullptr;
     DragAndDropHandler *dropHandler = nullptr;
     QVector<CampaignRegionItem *> regionItems; // owned by the scene, in the order of the regions
+    ScenarioInfo *scenarioDialog = nullptr;    // while it is open
     CampaignData campaign;
     QString currentFile; // empty: never saved
     std::array<QAction *, recentFileCount> recentFileActions{};

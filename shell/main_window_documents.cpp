@@ -4,11 +4,12 @@
 #include "campaign_dialogs/new_campaign.h"
 #include "gamedata/editor_data.h"
 #include "gamedata/game_dir.h"
-#include "gamedata/ini_file.h"
+#include "gamedata/used_folder.h"
 #include "shell/campaign_map_view.h"
+#include "shell/wait_cursor.h"
+#include "shell/warning_box.h"
 #include "ui_MainWindow.h"
 
-#include <QApplication>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -16,8 +17,6 @@
 
 namespace {
 
-constexpr const char *editorSection = "Campaign Editor";
-constexpr const char *pathKey = "Path";
 constexpr quint32 mapOfCampaignsWithoutMap = 24;
 
 QString untitled()
@@ -33,44 +32,8 @@ QString mapsFolder()
 // The folder used last, or the given one.
 QString startFolder(const QString &otherwise)
 {
-    const QString used = QString::fromUtf8(ini->GetStringVal(editorSection, pathKey, ""));
+    const QString used = usedFolder();
     return used.isEmpty() ? otherwise : used;
-}
-
-void rememberFolderOf(const QString &file)
-{
-    const QByteArray folder = QFileInfo(file).absolutePath().toUtf8();
-    ini->SetStringVal(editorSection, pathKey, folder.constData());
-}
-
-// The hourglass for as long as it lives. A reader that has already taken it away, as it does
-// before a message, isn't followed by a second taking.
-class WaitCursor
-{
-public:
-    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { restore(); }
-    WaitCursor(const WaitCursor &) = delete;
-    WaitCursor &operator=(const WaitCursor &) = delete;
-
-    void restore()
-    {
-        const QCursor *now = QApplication::overrideCursor();
-        if (m_set && now && now->shape() == Qt::WaitCursor)
-            QApplication::restoreOverrideCursor();
-        m_set = false;
-    }
-
-private:
-    bool m_set = true;
-};
-
-// One OK button, the text as it is.
-void warn(QWidget *parent, const QString &title, const QString &text)
-{
-    QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::Ok, parent);
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
 }
 
 } // namespace

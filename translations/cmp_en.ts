@@ -13,6 +13,17 @@
     </message>
 </context>
 <context>
+    <name>AskDeleteAll</name>
+    <message>
+        <source>Delete All</source>
+        <translation>Delete All</translation>
+    </message>
+    <message>
+        <source>Do you really want to delete all scenarios?</source>
+        <translation>Do you really want to delete all scenarios?</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Eldmark Saga® Campaign Editor</source>
@@ -257,6 +268,88 @@ Ravn_settings.ini must be in Eldmark root folder.</translation>
     </message>
 </context>
 <context>
+    <name>ScenarioGeneral</name>
+    <message>
+        <source>(None)</source>
+        <translation>(None)</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Eldmark Saga map (*.e3m);;All Files (*)</source>
+        <translation>Eldmark Saga map (*.e3m);;All Files (*)</translation>
+    </message>
+    <message>
+        <source>Cannot read file %1:
+%2.</source>
+        <translation>Cannot read file %1:
+%2.</translation>
+    </message>
+    <message>
+        <source>Cannot read file %1. Map has errors.</source>
+        <translation>Cannot read file %1. Map has errors.</translation>
+    </message>
+    <message>
+        <source>Cannot write file %1:
+%2.</source>
+        <translation>Cannot write file %1:
+%2.</translation>
+    </message>
+</context>
+<context>
+    <name>ScenarioInfo</name>
+    <message>
+        <source>Scenario Properties</source>
+        <translation>Scenario Properties</translation>
+    </message>
+    <message>
+        <source>Scenario list</source>
+        <translation>Scenario list</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Delete all</source>
+        <translation>Delete all</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Prologue</source>
+        <translation>Prologue</translation>
+    </message>
+    <message>
+        <source>Epilogue</source>
+        <translation>Epilogue</translation>
+    </message>
+    <message>
+        <source>Crossover Options</source>
+        <translation>Crossover Options</translation>
+    </message>
+    <message>
+        <source>Starting Options</source>
+        <translation>Starting Options</translation>
+    </message>
+</context>
+<context>
     <name>newcampaign</name>
     <message>
         <source>New Campaign</source>
@@ -281,6 +374,53 @@ Ravn_settings.ini must be in Eldmark root folder.</translation>
     <message>
         <source>image</source>
         <translation>image</translation>
+    </message>
+</context>
+<context>
+    <name>scenarioGeneral</name>
+    <message>
+        <source>Region name</source>
+        <translation>Region name</translation>
+    </message>
+    <message>
+        <source>Scenario name</source>
+        <translation>Scenario name</translation>
+    </message>
+    <message>
+        <source>(None)</source>
+        <translation>(None)</translation>
+    </message>
+    <message>
+        <source>Region color</source>
+        <translation>Region color</translation>
+    </message>
+    <message>
+        <source>Map file</source>
+        <translation>Map file</translation>
+    </message>
+    <message>
+        <source>Import...</source>
+        <translation>Import...</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Export...</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Default difficulty:</source>
+        <translation>Default difficulty:</translation>
+    </message>
+    <message>
+        <source>Prerequisites:</source>
+        <translation>Prerequisites:</translation>
+    </message>
+    <message>
+        <source>Region right-click text:</source>
+        <translation>Region right-click text:</translation>
     </message>
 </context>
 </TS>

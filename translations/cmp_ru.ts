@@ -13,6 +13,17 @@
     </message>
 </context>
 <context>
+    <name>AskDeleteAll</name>
+    <message>
+        <source>Delete All</source>
+        <translation>Удалить все</translation>
+    </message>
+    <message>
+        <source>Do you really want to delete all scenarios?</source>
+        <translation>Действительно удалить все сценарии?</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Eldmark Saga® Campaign Editor</source>
@@ -257,6 +268,88 @@ Ravn_settings.ini must be in Eldmark root folder.</source>
     </message>
 </context>
 <context>
+    <name>ScenarioGeneral</name>
+    <message>
+        <source>(None)</source>
+        <translation>(нет)</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Открыть</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Ошибка</translation>
+    </message>
+    <message>
+        <source>Eldmark Saga map (*.e3m);;All Files (*)</source>
+        <translation>Карта Eldmark Saga (*.e3m);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>Cannot read file %1:
+%2.</source>
+        <translation>Не удалось прочитать файл %1:
+%2.</translation>
+    </message>
+    <message>
+        <source>Cannot read file %1. Map has errors.</source>
+        <translation>Не удалось прочитать файл %1. В карте есть ошибки.</translation>
+    </message>
+    <message>
+        <source>Cannot write file %1:
+%2.</source>
+        <translation>Не удалось записать файл %1:
+%2.</translation>
+    </message>
+</context>
+<context>
+    <name>ScenarioInfo</name>
+    <message>
+        <source>Scenario Properties</source>
+        <translation>Свойства сценария</translation>
+    </message>
+    <message>
+        <source>Scenario list</source>
+        <translation>Список сценариев</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Добавить</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Delete all</source>
+        <translation>Удалить все</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Основное</translation>
+    </message>
+    <message>
+        <source>Prologue</source>
+        <translation>Пролог</translation>
+    </message>
+    <message>
+        <source>Epilogue</source>
+        <translation>Эпилог</translation>
+    </message>
+    <message>
+        <source>Crossover Options</source>
+        <translation>Переход героев</translation>
+    </message>
+    <message>
+        <source>Starting Options</source>
+        <translation>Начальные условия</translation>
+    </message>
+</context>
+<context>
     <name>newcampaign</name>
     <message>
         <source>New Campaign</source>
@@ -281,6 +374,53 @@ Ravn_settings.ini must be in Eldmark root folder.</source>
     <message>
         <source>image</source>
         <translation>изображение</translation>
+    </message>
+</context>
+<context>
+    <name>scenarioGeneral</name>
+    <message>
+        <source>Region name</source>
+        <translation>Название региона</translation>
+    </message>
+    <message>
+        <source>Scenario name</source>
+        <translation>Название сценария</translation>
+    </message>
+    <message>
+        <source>(None)</source>
+        <translation>(нет)</translation>
+    </message>
+    <message>
+        <source>Region color</source>
+        <translation>Цвет региона</translation>
+    </message>
+    <message>
+        <source>Map file</source>
+        <translation>Файл карты</translation>
+    </message>
+    <message>
+        <source>Import...</source>
+        <translation>Импорт...</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Экспорт...</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Default difficulty:</source>
+        <translation>Сложность по умолчанию:</translation>
+    </message>
+    <message>
+        <source>Prerequisites:</source>
+        <translation>Сначала нужно пройти:</translation>
+    </message>
+    <message>
+        <source>Region right-click text:</source>
+        <translation>Текст по правой кнопке мыши:</translation>
     </message>
 </context>
 </TS>

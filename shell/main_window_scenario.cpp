@@ -1,0 +1,34 @@
+// The way into the scenario dialog and back.
+#include "gamedata/editor_data.h"
+#include "scenario/scenario_info.h"
+#include "shell/campaign_region_item.h"
+#include "shell/main_window.h"
+
+void MainWindow::openScenarioProperties()
+{
+    showScenarioPropertiesDlg();
+}
+
+void MainWindow::showScenarioPropertiesDlg()
+{
+    ScenarioInfo dialog(this, &campaign, EditorData::info.campaign, EditorData::info.region);
+    scenarioDialog = &dialog;
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    scenarioDialog = nullptr;
+    if (!accepted)
+        return;
+    const bool stored = dialog.saveScenarioInfo();
+    if (stored || dialog.hasChanged()) {
+        EditorData::info.modified = true;
+        updateWindowTitle();
+    }
+    campaign = std::move(dialog.editedCampaign());
+    campaign.scenarioCount = quint32(campaign.scenarios.size());
+    EditorData::info.region = dialog.getCurrentRegion();
+    if (!campaign.hasMap)
+        return;
+    for (CampaignRegionItem *item : regionItems) {
+        if (item->regionIndex < campaign.scenarios.size())
+            item->updateImage(&campaign.scenarios[item->regionIndex]);
+    }
+}
