@@ -1,0 +1,133 @@
+// What the tests of the scenario dialog share: the tiny game, loaded once, campaigns made in
+// memory, and the dialog on one of them.
+#pragma once
+
+#include "document/campaign_data.h"
+#include "gamedata/editor_data.h"
+#include "gamedata/ini_file.h"
+#include "scenario/scenario_info.h"
+#include "shell/dialog_look.h"
+#include "shell/editor_resources.h"
+#include "shell/message_reporter.h"
+#include "tests/support/message_boxes.h"
+#include "tests/support/tiny_game.h"
+
+#include <QApplication>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+
+#include <memory>
+#include <vector>
+
+// Map 24 of the tiny game has the regions "Alder Bay", "Birch Hill" and "Cedar Fen".
+constexpr unsigned int homeMap = 24;
+
+class ScenarioFixture
+{
+public:
+    ScenarioFixture()
+    {
+        initEditorResources();
+        reportWithMessageBoxes();
+        QApplication::setFont(editorFont());
+        game.load();
+    }
+
+    // Before each test: nothing modified, no folder used.
+    void reset()
+    {
+        EditorData::info = {};
+        ini->SetStringVal("Campaign Editor", "Path", "");
+    }
+
+    tiny::Game game;
+};
+
+// A scenario on a map of this file and this name. The map's bytes are nobody's but its own.
+inline ScenarioData scenarioWithMap(const QString &fileName, const QString &mapName)
+{
+    auto header = std::make_shared<MapHeader>();
+    header->anyPlayers = 1;
+    header->mapName = mapName;
+    ScenarioData scenario;
+    scenario.mapFileName = fileName;
+    scenario.mapHeader = std::move(header);
+    scenario.compressedMap = "packed " + fileName.toUtf8();
+    scenario.mapSize = quint32(scenario.compressedMap.size());
+    return scenario;
+}
+
+// Where the name is empty, a scenario without a map; else on "NAME.e3m", called "NAME map".
+inline std::vector<ScenarioData> scenariosNamed(const QStringList &names)
+{
+    std::vector<ScenarioData> scenarios;
+    for (const QString &name : names) {
+        scenarios.push_back(name.isEmpty() ? ScenarioData()
+                                           : scenarioWithMap(name + ".e3m", name + " map"));
+    }
+    return scenarios;
+}
+
+// Every scenario gets a clear bit for each of them.
+inline CampaignData campaignOf(bool hasMap, std::vector<ScenarioData> scenarios)
+{
+    CampaignData campaign;
+    campaign.initDummyCampaign(homeMap, hasMap, 0, hasMap ? 0 : unsigned(scenarios.size()));
+    campaign.scenarios = std::move(scenarios);
+    for (ScenarioData &scenario : campaign.scenarios)
+        scenario.prerequisites = QBitArray(int(campaign.scenarios.size()));
+    return campaign;
+}
+
+inline CampaignData campaignOf(bool hasMap, const QStringList &names)
+{
+    return campaignOf(hasMap, scenariosNamed(names));
+}
+
+// The dialog on a campaign, on show until it goes out of scope.
+class OpenScenarioDialog
+{
+public:
+    explicit OpenScenarioDialog(CampaignData &campaign, unsigned int region = 0)
+        : dialog(nullptr, &campaign, homeMap, region)
+    {
+        dialog.show();
+        if (!QTest::qWaitForWindowExposed(&dialog))
+            QTest::qFail("The dialog never came.", __FILE__, __LINE__);
+    }
+
+    template<typename Widget>
+    Widget *find(const char *name)
+    {
+        auto *widget = dialog.findChild<Widget *>(name);
+        if (!widget)
+            qFatal("The dialog has no %s.", name);
+        return widget;
+    }
+
+    QListWidget *list() { return find<QListWidget>("listWidget"); }
+    QTabWidget *tabs() { return find<QTabWidget>("tabWidget"); }
+    CampaignData &copy() { return dialog.editedCampaign(); }
+
+    void click(const char *button) { clickOn(find<QWidget>(button)); }
+
+    // Clicks on a row of the list of scenarios.
+    void select(int row)
+    {
+        QListWidgetItem *item = list()->item(row);
+        list()->scrollToItem(item);
+        clickOn(list()->viewport(), list()->visualItemRect(item).center());
+    }
+
+    QStringList texts()
+    {
+        QStringList rows;
+        for (int row = 0; row < list()->count(); ++row)
+            rows << list()->item(row)->text();
+        return rows;
+    }
+
+    ScenarioInfo dialog;
+};
