@@ -15,6 +15,15 @@ inline double nanosecondsSince(Clock::time_point start)
     return std::chrono::duration<double, std::nano>(Clock::now() - start).count();
 }
 
+// The time of one run, in nanoseconds.
+template<typename Work>
+double once(Work work)
+{
+    const Clock::time_point begin = Clock::now();
+    work();
+    return nanosecondsSince(begin);
+}
+
 // The shortest time of one run of the work, in nanoseconds: what disturbs a run only adds to it.
 // Measures for the given time, three runs at least.
 template<typename Work>
@@ -23,9 +32,7 @@ double best(double milliseconds, Work work)
     double shortest = std::numeric_limits<double>::max();
     const Clock::time_point start = Clock::now();
     for (int runs = 0; runs < 3 || nanosecondsSince(start) < milliseconds * 1e6; ++runs) {
-        const Clock::time_point begin = Clock::now();
-        work();
-        shortest = std::min(shortest, nanosecondsSince(begin));
+        shortest = std::min(shortest, once(work));
     }
     return shortest;
 }

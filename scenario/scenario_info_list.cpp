@@ -43,13 +43,13 @@ void ScenarioInfo::updateItemSelection()
     ui->addBtn->setEnabled(count < mostScenarios);
 }
 
+// The view is told once: asked to follow each text it takes longer than all the rest.
 void ScenarioInfo::resetItemTexts(int firstRow)
 {
-    for (int row = firstRow; row < ui->listWidget->count(); ++row) {
-        QListWidgetItem *item = ui->listWidget->item(row);
-        item->setData(Qt::UserRole, row);
-        resetItemText(item);
-    }
+    const QSignalBlocker modelBlocker(ui->listWidget->model());
+    for (int row = firstRow; row < ui->listWidget->count(); ++row)
+        resetItemText(ui->listWidget->item(row));
+    ui->listWidget->doItemsLayout();
 }
 
 void ScenarioInfo::buttonAdd()
@@ -105,9 +105,11 @@ void ScenarioInfo::buttonDeleteAll()
     updateItemSelection();
 }
 
+// An item stands for a row, not for a scenario, so it is the last ones that go: those behind a
+// gap would each have to be looked for in the whole list.
 void ScenarioInfo::removeRows(int first, int count)
 {
-    ui->listWidget->model()->removeRows(first, count);
+    ui->listWidget->model()->removeRows(ui->listWidget->count() - count, count);
     const auto from = campaign.scenarios.begin() + Row(first);
     campaign.scenarios.erase(from, from + Row(count));
 }
