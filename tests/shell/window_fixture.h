@@ -9,16 +9,15 @@
 #include "shell/editor_resources.h"
 #include "shell/main_window.h"
 #include "shell/message_reporter.h"
+#include "tests/support/file_dialogs.h"
 #include "tests/support/message_boxes.h"
 #include "tests/support/tiny_game.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QDir>
-#include <QFileDialog>
 #include <QGraphicsScene>
 #include <QLabel>
-#include <QLineEdit>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTest>
@@ -117,33 +116,10 @@ inline QColor pixelOf(const QGraphicsPixmapItem *item, int x, int y)
     return item->pixmap().toImage().pixelColor(x, y);
 }
 
-// Checks a file dialog's caption, folder and name, then chooses a path, or cancels without one.
+// Answers a file dialog that offers campaigns.
 inline NextDialog::Answer chooseFile(const QString &caption, const QString &folder,
                                      const QString &name, const QString &choice)
 {
-    return [=](QWidget *widget) {
-        auto *dialog = qobject_cast<QFileDialog *>(widget);
-        if (!dialog) {
-            widget->close();
-            QFAIL("Another dialog came in the place of a file dialog.");
-        }
-        auto *edit = dialog->findChild<QLineEdit *>("fileNameEdit");
-        const auto close = [&] {
-            if (choice.isEmpty()) {
-                dialog->reject();
-                return;
-            }
-            edit->setText(choice);
-            QTest::keyClick(dialog->windowHandle(), Qt::Key_Return);
-        };
-        const QString shownCaption = dialog->windowTitle();
-        const QString shownFolder = dialog->directory().path();
-        const QString shownName = edit->text();
-        const QStringList filters = dialog->nameFilters();
-        close();
-        QCOMPARE(shownCaption, caption);
-        QCOMPARE(shownFolder, folder);
-        QCOMPARE(shownName, name);
-        QCOMPARE(filters, QStringList({"Eldmark Saga campaign (*.e3c)", "All Files (*)"}));
-    };
+    const QStringList filters{"Eldmark Saga campaign (*.e3c)", "All Files (*)"};
+    return chooseFile({caption, folder, name, filters}, choice);
 }
