@@ -31,7 +31,8 @@ void checkBox(const QMessageBox &box, const ExpectedBox &expected)
 
 } // namespace
 
-NextDialog::NextDialog(Answer answer) : m_answer(std::move(answer))
+NextDialog::NextDialog(Answer answer)
+    : m_answer(std::move(answer)), m_behind(QApplication::activeModalWidget())
 {
     waiting().append(this);
     QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { look(); });
@@ -48,7 +49,9 @@ NextDialog::~NextDialog()
 void NextDialog::look()
 {
     QWidget *dialog = QApplication::activeModalWidget();
-    if (!dialog || dialog == answeredLast() || waiting().isEmpty() || waiting().first() != this)
+    if (!dialog || dialog == m_behind || dialog == answeredLast())
+        return;
+    if (waiting().isEmpty() || waiting().first() != this)
         return;
     if (!dialog->isVisible() || !dialog->windowHandle() || !dialog->windowHandle()->isExposed())
         return;

@@ -6,6 +6,8 @@
 //     NextDialog question(boxAnswer({"Title", "Text", QMessageBox::NoIcon, QMessageBox::Yes |
 //                                    QMessageBox::No, QMessageBox::No}));
 //     window.close();
+//
+// A modal window that is there when one is made isn't taken for the one it waits for.
 #pragma once
 
 #include <QMessageBox>
@@ -41,6 +43,7 @@ private:
     void look();
 
     Answer m_answer;
+    const QPointer<QWidget> m_behind; // modal already
     QTimer m_timer;
     bool m_came = false;
 };
