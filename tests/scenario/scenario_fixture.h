@@ -71,19 +71,74 @@ inline std::vector<ScenarioData> scenariosNamed(const QStringList &names)
 }
 
 // Every scenario gets a clear bit for each of them.
-inline CampaignData campaignOf(bool hasMap, std::vector<ScenarioData> scenarios)
+inline CampaignData campaignFrom(bool hasMap, std::vector<ScenarioData> scenarios)
 {
     CampaignData campaign;
     campaign.initDummyCampaign(homeMap, hasMap, 0, hasMap ? 0 : unsigned(scenarios.size()));
     campaign.scenarios = std::move(scenarios);
+    const QBitArray none(int(campaign.scenarios.size()));
     for (ScenarioData &scenario : campaign.scenarios)
-        scenario.prerequisites = QBitArray(int(campaign.scenarios.size()));
+        scenario.prerequisites = none;
     return campaign;
 }
 
 inline CampaignData campaignOf(bool hasMap, const QStringList &names)
 {
-    return campaignOf(hasMap, scenariosNamed(names));
+    return campaignFrom(hasMap, scenariosNamed(names));
+}
+
+// Gives the scenarios their prerequisites: a row of "0" and "1" for each, scenario 0 first.
+inline void require(CampaignData &campaign, const QStringList &rows)
+{
+    for (int i = 0; i < rows.size(); ++i) {
+        QBitArray bits(rows[i].size());
+        for (int j = 0; j < bits.size(); ++j)
+            bits.setBit(j, rows[i][j] == '1');
+        campaign.scenarios[std::size_t(i)].prerequisites = bits;
+    }
+}
+
+inline QStringList requiredIn(const CampaignData &campaign)
+{
+    QStringList rows;
+    for (const ScenarioData &scenario : campaign.scenarios) {
+        QString row;
+        for (int j = 0; j < scenario.prerequisites.size(); ++j)
+            row += scenario.prerequisites.testBit(j) ? '1' : '0';
+        rows << row;
+    }
+    return rows;
+}
+
+// Fills what the first tab doesn't show: stories, start options, crossover.
+inline void addStories(ScenarioData &scenario, const QString &text)
+{
+    for (std::size_t i = 0; i < scenario.prologues.size(); ++i) {
+        scenario.prologues[i] = std::make_shared<CmpPrologue>(CmpPrologue{1, 34, text + " begins"});
+        scenario.epilogues[i] = std::make_shared<CmpPrologue>(CmpPrologue{2, 35, text + " ends"});
+    }
+    StartingHeroSet heroes;
+    heroes.entries = {{2, 5}, {3, 0xFFFF}};
+    scenario.startOptions = std::make_shared<CmpScenarioStartOptions>();
+    scenario.startOptions->optionType = 3;
+    scenario.startOptions->optionData = QVariant::fromValue(heroes);
+    scenario.crossover.heroKeeps.fill(false);
+    scenario.crossover.heroKeeps.setBit(2);
+    scenario.crossover.artifacts.setBit(7);
+    scenario.crossover.creatures.setBit(9);
+}
+
+// All of a campaign, to be held against another: its file's bytes, and what they don't tell, since
+// a file without a map holds a chain in the place of prerequisites.
+inline QByteArrayList stateOf(CampaignData campaign)
+{
+    QByteArrayList state{QByteArray::number(campaign.scenarioCount),
+                         requiredIn(campaign).join(' ').toLatin1()};
+    for (const ScenarioData &scenario : campaign.scenarios)
+        state << QByteArray::number(quintptr(scenario.mapHeader.get()));
+    for (const QByteArray &piece : campaign.toPieces())
+        state << piece;
+    return state;
 }
 
 // The dialog on a campaign, on show until it goes out of scope.
