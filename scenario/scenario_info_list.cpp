@@ -97,6 +97,7 @@ void ScenarioInfo::buttonDeleteAll()
         return;
     const QSignalBlocker blocker(ui->listWidget);
     changed = true;
+    saveScenarioInfo(); // of the one that stays
     removeRows(row + 1, ui->listWidget->count() - row - 1);
     removeRows(0, row);
     ui->listWidget->setCurrentRow(0);
