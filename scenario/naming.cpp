@@ -2,6 +2,7 @@
 
 #include "document/campaign_data.h"
 #include "gamedata/editor_data.h"
+#include "scenario/map_player.h"
 
 #include <QComboBox>
 #include <QObject>
@@ -18,14 +19,6 @@ QString inTown()
 QString onTheMap()
 {
     return QObject::tr(" (on map)");
-}
-
-// Null without a map.
-const PlayerAttributes *playerOf(const ScenarioData &scenario, unsigned int player)
-{
-    if (!scenario.mapHeader || player >= scenario.mapHeader->players.size())
-        return nullptr;
-    return &scenario.mapHeader->players[player];
 }
 
 // Null if the campaign lacks it.
@@ -72,7 +65,7 @@ QString getHeroName(ScenarioData *scenario, unsigned int player, unsigned short 
 
     const QString mapPlace = showPlace ? onTheMap() : QString();
     bool onMap = false;
-    if (const PlayerAttributes *attributes = playerOf(*scenario, player)) {
+    if (const PlayerAttributes *attributes = playerOnMap(*scenario, player)) {
         for (const PlayerAttributesHeroInfo &info : attributes->heroInfo) {
             if (info.heroId != hero)
                 continue;
@@ -93,7 +86,7 @@ void addHeroToCombobox(QComboBox *box, ScenarioData *scenario, unsigned int play
 void addHeroesToCombobox(QComboBox *box, ScenarioData *scenario, unsigned int player,
                          bool withSpecial)
 {
-    const PlayerAttributes *attributes = playerOf(*scenario, player);
+    const PlayerAttributes *attributes = playerOnMap(*scenario, player);
     if (withSpecial) {
         addHeroToCombobox(box, scenario, player, HeroIdMostPowerful);
         if (attributes && attributes->generatesHero)

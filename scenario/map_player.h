@@ -1,0 +1,12 @@
+// The players of a scenario's map, asked for by numbers that come from files.
+#pragma once
+
+#include "document/campaign_data.h"
+
+// Null without a map and for a number that no player has.
+inline const PlayerAttributes *playerOnMap(const ScenarioData &scenario, unsigned int player)
+{
+    if (!scenario.mapHeader || player >= scenario.mapHeader->players.size())
+        return nullptr;
+    return &scenario.mapHeader->players[player];
+}
