@@ -10,3 +10,11 @@ inline const PlayerAttributes *playerOnMap(const ScenarioData &scenario, unsigne
         return nullptr;
     return &scenario.mapHeader->players[player];
 }
+
+// The same as a record: one with all flags clear where there is no such player.
+inline const PlayerAttributes &attributesOnMap(const ScenarioData &scenario, unsigned int player)
+{
+    static const PlayerAttributes absent;
+    const PlayerAttributes *found = playerOnMap(scenario, player);
+    return found ? *found : absent;
+}

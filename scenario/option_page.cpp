@@ -2,6 +2,7 @@
 
 #include "shell/dialog_look.h"
 
+#include <QEvent>
 #include <QHeaderView>
 #include <QPushButton>
 
@@ -41,6 +42,23 @@ void OptionPage::setUpTable(QTableWidget *table, QPushButton *add, QPushButton *
     connect(table, &QTableWidget::cellDoubleClicked, this, &OptionPage::itemDoubleclicked);
 }
 
+void OptionPage::setColumnShare(int part, int whole)
+{
+    m_sharePart = part;
+    m_shareWhole = whole;
+    m_table->installEventFilter(this);
+}
+
+// The table gets its width from the page's layout, and not before the page is on show.
+bool OptionPage::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_table && event->type() == QEvent::Resize) {
+        const int width = m_table->width() * m_sharePart / m_shareWhole;
+        m_table->horizontalHeader()->setDefaultSectionSize(width);
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
 void OptionPage::resetTable(int columns)
 {
     m_table->setRowCount(0);
@@ -59,6 +77,14 @@ QTableWidgetItem *OptionPage::appendRow()
         m_table->setItem(row, column, item);
     }
     return m_table->item(row, 0);
+}
+
+QTableWidgetItem *OptionPage::addRow()
+{
+    QTableWidgetItem *item = appendRow();
+    if (m_table->rowCount() >= mostOptions)
+        m_add->setEnabled(false);
+    return item;
 }
 
 void OptionPage::clearUI()

@@ -3,12 +3,16 @@
 //
 // A page builds its form, hands the controls over with setUpTable, and fills in what its rows
 // hold. Rows live in the table only: the scenario's own record is replaced when the tab is saved.
+//
+// The dialogs that edit a row use the functions for rows and records at the end.
 #pragma once
 
 #include <QTableWidget>
 #include <QWidget>
 
 #include <initializer_list>
+#include <set>
+#include <vector>
 
 class QPushButton;
 class ScenarioData;
@@ -35,10 +39,16 @@ protected:
 
     // The controls of the page's form, to be handed over once; it stays their owner.
     void setUpTable(QTableWidget *table, QPushButton *add, QPushButton *edit, QPushButton *remove);
+    // A column is as wide as this share of the table, the last one takes what is left.
+    void setColumnShare(int part, int whole);
     // No rows, all buttons disabled: the state before a scenario is loaded.
     void resetTable(int columns);
     // Appends a row of items that can't be edited in place, and answers the one in column 0.
     QTableWidgetItem *appendRow();
+    // The same for a row that the user adds: no further one past the limit.
+    QTableWidgetItem *addRow();
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
     QTableWidget *table() const { return m_table; }
     QPushButton *addButton() const { return m_add; }
@@ -65,6 +75,8 @@ private:
     QPushButton *m_add = nullptr;
     QPushButton *m_edit = nullptr;
     QPushButton *m_remove = nullptr;
+    int m_sharePart = 0; // of a column in the table's width
+    int m_shareWhole = 1;
 };
 
 // Puts a record and its text into a row's item.
@@ -80,4 +92,40 @@ template<typename Record>
 Record recordOf(const QTableWidgetItem *item)
 {
     return item ? item->data(Qt::UserRole).value<Record>() : Record();
+}
+
+// Puts one record into all items of a row, each with the text of its column.
+template<typename Record>
+void setRowRecord(QTableWidget *table, int row, const Record &record,
+                  std::initializer_list<QString> texts)
+{
+    int column = 0;
+    for (const QString &text : texts)
+        setRecord(table->item(row, column++), record, text);
+}
+
+// What a field of the records says in all rows but the one whose item in column 0 is `ignore`.
+template<typename Record, typename Field>
+std::set<int> valuesInRows(const QTableWidget *table, Field Record::*field,
+                           const QTableWidgetItem *ignore = nullptr)
+{
+    std::set<int> values;
+    for (int row = 0; row < table->rowCount(); ++row) {
+        const QTableWidgetItem *item = table->item(row, 0);
+        if (item && item != ignore)
+            values.insert(recordOf<Record>(item).*field);
+    }
+    return values;
+}
+
+// The records of a table in the order of its rows. Rows without an item are left out.
+template<typename Record>
+std::vector<Record> recordsInRows(const QTableWidget *table)
+{
+    std::vector<Record> records;
+    for (int row = 0; row < table->rowCount(); ++row) {
+        if (const QTableWidgetItem *item = table->item(row, 0))
+            records.push_back(recordOf<Record>(item));
+    }
+    return records;
 }
