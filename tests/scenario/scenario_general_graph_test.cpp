@@ -1,0 +1,306 @@
+// Clicks on prerequisites in graphs of chance, held against a model that follows the rules by
+// itself: it keeps sets and closes them anew after each click.
+#include "tests/scenario/general_tab.h"
+
+#include <QRandomGenerator>
+#include <QSet>
+
+namespace {
+
+using Graph = QVector<QSet<int>>; // the direct prerequisites of each scenario
+
+// What each scenario requires, directly or through others, by squaring until nothing is new.
+Graph closureOf(const Graph &direct)
+{
+    Graph closure = direct;
+    for (bool grown = true; grown;) {
+        grown = false;
+        for (QSet<int> &required : closure) {
+            const QSet<int> before = required;
+            for (const int j : before)
+                required |= closure[j];
+            grown |= required.size() != before.size();
+        }
+    }
+    return closure;
+}
+
+// A campaign's graph and the list shown for the selected scenario, kept by the rules alone.
+struct Model
+{
+    Graph direct;
+    QVector<bool> hasMap;
+    int selected = 0;
+    QSet<int> takenAway; // unchecked in the list though still implied, until it is loaded anew
+
+    void select(int scenario)
+    {
+        selected = scenario;
+        takenAway.clear();
+    }
+
+    void check(int x)
+    {
+        const QSet<int> implied = closureOf(direct)[x];
+        direct[selected].insert(x);
+        direct[selected] -= implied;
+        takenAway -= implied;
+        takenAway.remove(x);
+        for (int k = 0; k < direct.size(); ++k) {
+            if (k != selected && direct[k].contains(selected))
+                direct[k].remove(x);
+        }
+    }
+
+    void uncheck(int x)
+    {
+        const QSet<int> implied = closureOf(direct)[x];
+        direct[selected].remove(x);
+        direct[selected] |= implied;
+        takenAway -= implied;
+        takenAway.insert(x);
+        for (int k = 0; k < direct.size(); ++k) {
+            if (k != selected && direct[k].contains(selected))
+                direct[k].insert(x);
+        }
+    }
+
+    void removeMap()
+    {
+        for (int k = 0; k < direct.size(); ++k) {
+            if (k != selected && direct[k].remove(selected))
+                direct[k] |= direct[selected];
+        }
+        direct[selected].clear();
+        hasMap[selected] = false;
+        takenAway.clear();
+    }
+
+    QStringList list() const
+    {
+        QStringList rows;
+        const Graph closure = closureOf(direct);
+        for (int i = 0; i < direct.size() && hasMap[selected]; ++i) {
+            if (i == selected || !hasMap[i])
+                continue;
+            const QString number = QString::number(i);
+            if (direct[selected].contains(i))
+                rows << number + " checked";
+            else if (takenAway.contains(i))
+                rows << number + " free";
+            else if (closure[selected].contains(i))
+                rows << number + " implied";
+            else if (!closure[i].contains(selected))
+                rows << number + " free";
+        }
+        return rows;
+    }
+};
+
+// Arrows lead from a scenario to some that come before it in an order of chance: no cycle.
+Model randomModel(QRandomGenerator &random)
+{
+    Model model;
+    const int count = random.bounded(2, 21);
+    QVector<int> order;
+    for (int i = 0; i < count; ++i)
+        order.insert(random.bounded(i + 1), i);
+    model.direct.resize(count);
+    model.hasMap.resize(count);
+    const int density = random.bounded(1, 8);
+    for (int i = 0; i < count; ++i) {
+        model.hasMap[i] = random.bounded(6) > 0;
+        for (int before = 0; before < i; ++before) {
+            if (random.bounded(count) < density)
+                model.direct[order[i]].insert(order[before]);
+        }
+    }
+    return model;
+}
+
+CampaignData campaignOfModel(const Model &model)
+{
+    QStringList names;
+    for (int i = 0; i < model.hasMap.size(); ++i)
+        names << (model.hasMap[i] ? "m" + QString::number(i) : QString());
+    CampaignData campaign = campaignOf(true, names);
+    for (int i = 0; i < model.direct.size(); ++i)
+        require(campaign, i, model.direct[i].values());
+    return campaign;
+}
+
+bool hasCycle(const Graph &direct)
+{
+    const Graph closure = closureOf(direct);
+    for (int i = 0; i < closure.size(); ++i) {
+        if (closure[i].contains(i))
+            return true;
+    }
+    return false;
+}
+
+Graph storedIn(GeneralTab &tab)
+{
+    Graph graph;
+    for (int i = 0; i < int(tab.copy().scenarios.size()); ++i) {
+        const QList<int> stored = tab.storedFor(i);
+        graph << QSet<int>(stored.begin(), stored.end());
+    }
+    return graph;
+}
+
+// Reach before and after a click, held against what the click means.
+void compareReach(const Graph &old, const Graph &now, const Graph &directBefore, int s, int x,
+                  bool checked)
+{
+    for (int k = 0; k < old.size(); ++k) {
+        QSet<int> expected = old[k];
+        if (checked && (k == s || old[k].contains(s))) {
+            expected |= old[x];
+            expected.insert(x);
+        }
+        if (!checked && k == s) {
+            bool impliedByAnother = false;
+            for (const int other : directBefore[s])
+                impliedByAnother |= other != x && old[other].contains(x);
+            if (!impliedByAnother)
+                expected.remove(x);
+        }
+        QCOMPARE(now[k], expected);
+    }
+}
+
+} // namespace
+
+class ScenarioGeneralGraphTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init() { fixture->reset(); }
+
+    void randomGraphsFollowTheModel_data();
+    void randomGraphsFollowTheModel();
+    void checksAloneOnlyAddReach();
+
+private:
+    void step(GeneralTab &tab, Model &model, QRandomGenerator &random);
+    void compare(GeneralTab &tab, const Model &model);
+
+    std::unique_ptr<ScenarioFixture> fixture;
+};
+
+void ScenarioGeneralGraphTest::initTestCase()
+{
+    fixture = std::make_unique<ScenarioFixture>();
+    addRegions(128);
+}
+
+void ScenarioGeneralGraphTest::compare(GeneralTab &tab, const Model &model)
+{
+    QCOMPARE(tab.shownPrerequisites(), model.list());
+    const Graph stored = storedIn(tab);
+    QCOMPARE(stored, model.direct);
+    QVERIFY(!hasCycle(stored));
+}
+
+// One act of a user: another scenario, a map taken away, or a click on a box.
+void ScenarioGeneralGraphTest::step(GeneralTab &tab, Model &model, QRandomGenerator &random)
+{
+    const int act = random.bounded(12);
+    if (act < 4) {
+        const int scenario = random.bounded(model.direct.size());
+        tab.select(scenario == model.selected ? (scenario + 1) % model.direct.size() : scenario);
+        tab.select(scenario);
+        model.select(scenario);
+        return;
+    }
+    if (act == 4 && random.bounded(4) == 0 && model.hasMap[model.selected]) {
+        const int s = model.selected;
+        const Graph old = closureOf(model.direct);
+        tab.click("removeButton");
+        model.removeMap();
+        const Graph now = closureOf(storedIn(tab));
+        for (int k = 0; k < old.size(); ++k)
+            QCOMPARE(now[k], k == s ? QSet<int>() : old[k] - QSet<int>{s});
+        return;
+    }
+    const QStringList rows = model.list().filter(QRegExp("checked|free"));
+    if (rows.isEmpty())
+        return;
+    const QStringList row = rows[random.bounded(rows.size())].split(' ');
+    const int x = row[0].toInt();
+    const bool checks = row[1] == "free";
+    const Graph before = model.direct;
+    tab.clickOnBoxOf(x);
+    checks ? model.check(x) : model.uncheck(x);
+    compareReach(closureOf(before), closureOf(storedIn(tab)), before, model.selected, x, checks);
+    QVERIFY(tab.dialog.hasChanged());
+}
+
+void ScenarioGeneralGraphTest::randomGraphsFollowTheModel_data()
+{
+    QTest::addColumn<quint32>("seed");
+    for (quint32 seed = 1; seed <= 20; ++seed)
+        QTest::addRow("seed %u", seed) << seed;
+}
+
+void ScenarioGeneralGraphTest::randomGraphsFollowTheModel()
+{
+    constexpr int campaigns = 50;
+    constexpr int steps = 15;
+    QFETCH(quint32, seed);
+    QRandomGenerator random(seed);
+    for (int number = 0; number < campaigns; ++number) {
+        Model model = randomModel(random);
+        CampaignData campaign = campaignOfModel(model);
+        model.select(random.bounded(model.direct.size()));
+        GeneralTab tab(campaign, unsigned(model.selected));
+        compare(tab, model);
+        for (int i = 0; i < steps && !QTest::currentTestFailed(); ++i) {
+            step(tab, model, random);
+            if (!QTest::currentTestFailed())
+                compare(tab, model);
+        }
+        if (QTest::currentTestFailed()) {
+            qWarning("Campaign %d", number);
+            return;
+        }
+    }
+}
+
+void ScenarioGeneralGraphTest::checksAloneOnlyAddReach()
+{
+    QRandomGenerator random(7);
+    Model model = randomModel(random);
+    while (model.direct.size() < 15)
+        model = randomModel(random);
+    model.hasMap.fill(true);
+    CampaignData campaign = campaignOfModel(model);
+    GeneralTab tab(campaign);
+    for (int scenario = 1; scenario < model.direct.size(); ++scenario) {
+        tab.select(scenario);
+        model.select(scenario);
+        for (QStringList rows = model.list().filter("free"); !rows.isEmpty();
+             rows = model.list().filter("free")) {
+            const Graph before = model.direct;
+            const int x = rows[random.bounded(rows.size())].section(' ', 0, 0).toInt();
+            tab.clickOnBoxOf(x);
+            model.check(x);
+            compareReach(closureOf(before), closureOf(storedIn(tab)), before, scenario, x, true);
+            compare(tab, model);
+            if (QTest::currentTestFailed())
+                return;
+        }
+    }
+    // All that may be required is: whoever two are, one of them requires the other.
+    const Graph closure = closureOf(storedIn(tab));
+    for (int a = 1; a < closure.size(); ++a) {
+        for (int b = 0; b < a; ++b)
+            QVERIFY(closure[a].contains(b) != closure[b].contains(a));
+    }
+}
+
+QTEST_MAIN(ScenarioGeneralGraphTest)
+#include "scenario_general_graph_test.moc"
