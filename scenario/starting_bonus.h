@@ -1,7 +1,7 @@
 // The editor of start options for bonuses: the player who gets one, and up to three to choose from.
 //
-// A row's item holds the bonus record under Qt::UserRole and its type, an unsigned char, under the
-// role after that. Rows that the map no longer allows disappear without a word.
+// A row's item holds the bonus record under Qt::UserRole and its type, an unsigned char, under
+// bonusTypeRole. Rows that the map no longer allows disappear without a word.
 #pragma once
 
 #include "scenario/option_page.h"
@@ -26,11 +26,13 @@ public:
     void initInfo(ScenarioData *scenario, unsigned int campaignMap);
     // No rows and no players.
     void clearUI() override;
+    // Appends the rows to the set. Without a player chosen they are player 0's.
     void saveScenarioInfo(StartingBonusSet *set);
     // The scenario's map has changed: the players are listed anew, and the rows judged for the
     // player chosen before.
     void validateBonuses();
-    // Removes the rows that this player can't be given on the scenario's map.
+    // Removes the rows that this player can't be given on the scenario's map. Buttons stay as they
+    // are.
     void validateForPlayer(unsigned int player);
 
 private slots:
@@ -39,6 +41,7 @@ private slots:
 private:
     void addItem() override;
     void openEditMenu(QTableWidgetItem *item) override;
+    void loadBonuses(const StartingBonusSet &set);
     void fillPlayers();
     unsigned int currentPlayer() const;
 

@@ -266,6 +266,30 @@ Ravn_settings.ini must be in Eldmark root folder.</translation>
         <source>No scenario</source>
         <translation>No scenario</translation>
     </message>
+    <message>
+        <source>Give %1 spell to %2</source>
+        <translation>Give %1 spell to %2</translation>
+    </message>
+    <message>
+        <source>Give %1 %2 to %3</source>
+        <translation>Give %1 %2 to %3</translation>
+    </message>
+    <message>
+        <source>Build %1 at Main Town</source>
+        <translation>Build %1 at Main Town</translation>
+    </message>
+    <message>
+        <source>Give %1 to %2</source>
+        <translation>Give %1 to %2</translation>
+    </message>
+    <message>
+        <source>Give %1 Spell Scroll to %2</source>
+        <translation>Give %1 Spell Scroll to %2</translation>
+    </message>
+    <message>
+        <source>Receive %1 %2</source>
+        <translation>Receive %1 %2</translation>
+    </message>
 </context>
 <context>
     <name>ScenarioGeneral</name>
@@ -347,6 +371,29 @@ Ravn_settings.ini must be in Eldmark root folder.</translation>
     <message>
         <source>Starting Options</source>
         <translation>Starting Options</translation>
+    </message>
+</context>
+<context>
+    <name>StartingBonus</name>
+    <message>
+        <source>Player position:</source>
+        <translation>Player position:</translation>
+    </message>
+    <message>
+        <source>Starting bonus option</source>
+        <translation>Starting bonus option</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
     </message>
 </context>
 <context>

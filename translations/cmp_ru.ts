@@ -266,6 +266,30 @@ Ravn_settings.ini must be in Eldmark root folder.</source>
         <source>No scenario</source>
         <translation>Нет сценария</translation>
     </message>
+    <message>
+        <source>Give %1 spell to %2</source>
+        <translation>%2 получает заклинание «%1»</translation>
+    </message>
+    <message>
+        <source>Give %1 %2 to %3</source>
+        <translation>%3 получает: %2 (%1)</translation>
+    </message>
+    <message>
+        <source>Build %1 at Main Town</source>
+        <translation>Построить в главном городе: %1</translation>
+    </message>
+    <message>
+        <source>Give %1 to %2</source>
+        <translation>%2 получает: %1</translation>
+    </message>
+    <message>
+        <source>Give %1 Spell Scroll to %2</source>
+        <translation>%2 получает свиток с заклинанием «%1»</translation>
+    </message>
+    <message>
+        <source>Receive %1 %2</source>
+        <translation>Получить: %2 (%1)</translation>
+    </message>
 </context>
 <context>
     <name>ScenarioGeneral</name>
@@ -347,6 +371,29 @@ Ravn_settings.ini must be in Eldmark root folder.</source>
     <message>
         <source>Starting Options</source>
         <translation>Начальные условия</translation>
+    </message>
+</context>
+<context>
+    <name>StartingBonus</name>
+    <message>
+        <source>Player position:</source>
+        <translation>Позиция игрока:</translation>
+    </message>
+    <message>
+        <source>Starting bonus option</source>
+        <translation>Вариант начального бонуса</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Добавить</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Изменить</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Удалить</translation>
     </message>
 </context>
 <context>
