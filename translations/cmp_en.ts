@@ -292,6 +292,49 @@ Ravn_settings.ini must be in Eldmark root folder.</translation>
     </message>
 </context>
 <context>
+    <name>ScenarioCrossover</name>
+    <message>
+        <source>Crossover heroes details</source>
+        <translation>Crossover heroes details</translation>
+    </message>
+    <message>
+        <source>Experience</source>
+        <translation>Experience</translation>
+    </message>
+    <message>
+        <source>Primary Skills</source>
+        <translation>Primary Skills</translation>
+    </message>
+    <message>
+        <source>Secondary Skills</source>
+        <translation>Secondary Skills</translation>
+    </message>
+    <message>
+        <source>Spells</source>
+        <translation>Spells</translation>
+    </message>
+    <message>
+        <source>Artifacts</source>
+        <translation>Artifacts</translation>
+    </message>
+    <message>
+        <source>Creature types:</source>
+        <translation>Creature types:</translation>
+    </message>
+    <message>
+        <source>Crossover Artifacts:</source>
+        <translation>Crossover Artifacts:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>All</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>None</translation>
+    </message>
+</context>
+<context>
     <name>ScenarioGeneral</name>
     <message>
         <source>(None)</source>

@@ -292,6 +292,49 @@ Ravn_settings.ini must be in Eldmark root folder.</source>
     </message>
 </context>
 <context>
+    <name>ScenarioCrossover</name>
+    <message>
+        <source>Crossover heroes details</source>
+        <translation>Что герой сохраняет при переходе</translation>
+    </message>
+    <message>
+        <source>Experience</source>
+        <translation>Опыт</translation>
+    </message>
+    <message>
+        <source>Primary Skills</source>
+        <translation>Первичные навыки</translation>
+    </message>
+    <message>
+        <source>Secondary Skills</source>
+        <translation>Вторичные навыки</translation>
+    </message>
+    <message>
+        <source>Spells</source>
+        <translation>Заклинания</translation>
+    </message>
+    <message>
+        <source>Artifacts</source>
+        <translation>Артефакты</translation>
+    </message>
+    <message>
+        <source>Creature types:</source>
+        <translation>Типы существ:</translation>
+    </message>
+    <message>
+        <source>Crossover Artifacts:</source>
+        <translation>Переносимые артефакты:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Все</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ни одного</translation>
+    </message>
+</context>
+<context>
     <name>ScenarioGeneral</name>
     <message>
         <source>(None)</source>
