@@ -6,6 +6,7 @@
 
 #include <QDialog>
 
+#include <array>
 #include <memory>
 
 class BonusCreatureDlg;
@@ -14,13 +15,14 @@ class ScenarioData;
 class Ui_bonus_dialog;
 class bonus_multibox_dlg;
 class bonus_value_dlg;
+enum class BonusType : unsigned char;
 
 class BonusDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    // `item` is the row to edit, null for a new one.
+    // `item` is the row to edit, null for a new one. The dialog only reads it.
     BonusDialog(QWidget *parent, ScenarioData *scenario, unsigned int campaignMap,
                 unsigned int player, QTableWidgetItem *item);
     ~BonusDialog() override;
@@ -40,11 +42,25 @@ private slots:
     void clickPrimSkills();
     void clickSecSkills();
     void clickResources();
+    // Primary skills that are all 0 can't be accepted.
     void checkPrimSkillOkStatus(int value);
 
 private:
-    ScenarioData *scenario; // not owned
-    unsigned int campaignMap;
+    struct Kind;
+    static const std::array<Kind, 8> &kinds(); // by BonusType
+
+    void addPages(QTableWidgetItem *item);
+    template<typename Page>
+    Page *addPage(BonusType type);
+    void alignPages();
+    void initSlotsAndSignals();
+    void setOkEnabled(bool enabled);
+    void showPage(BonusType type);
+    // For all kinds whose page can't be wrong.
+    void choosePage(BonusType type);
+
+    ScenarioData *scenario;   // not owned
+    unsigned int campaignMap; // key of EditorData::campaignInfo
     unsigned int player;
     const std::unique_ptr<Ui_bonus_dialog> ui;
     bonus_multibox_dlg *spellPage = nullptr; // Qt owns these eight

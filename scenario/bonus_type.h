@@ -4,7 +4,8 @@
 #include <QTableWidgetItem>
 
 // As stored in files.
-enum class BonusType : unsigned char {
+enum class BonusType : unsigned char
+{
     Spell,
     Creature,
     Building,

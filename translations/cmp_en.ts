@@ -24,6 +24,44 @@
     </message>
 </context>
 <context>
+    <name>HeroCrossover</name>
+    <message>
+        <source>Source scenario</source>
+        <translation>Source scenario</translation>
+    </message>
+    <message>
+        <source>Player position</source>
+        <translation>Player position</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+</context>
+<context>
+    <name>HeroCrossoverDialog</name>
+    <message>
+        <source>Edit Hero Crossover Option</source>
+        <translation>Edit Hero Crossover Option</translation>
+    </message>
+    <message>
+        <source>Source scenario:</source>
+        <translation>Source scenario:</translation>
+    </message>
+    <message>
+        <source>Player position:</source>
+        <translation>Player position:</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Eldmark Saga® Campaign Editor</source>
@@ -437,6 +475,176 @@ Ravn_settings.ini must be in Eldmark root folder.</translation>
     <message>
         <source>Remove</source>
         <translation>Remove</translation>
+    </message>
+</context>
+<context>
+    <name>StartingHeroDialog</name>
+    <message>
+        <source>Edit Starting Hero Option</source>
+        <translation>Edit Starting Hero Option</translation>
+    </message>
+    <message>
+        <source>Player position:</source>
+        <translation>Player position:</translation>
+    </message>
+    <message>
+        <source>Hero Identity:</source>
+        <translation>Hero Identity:</translation>
+    </message>
+</context>
+<context>
+    <name>StartingHeroOptions</name>
+    <message>
+        <source>Hero</source>
+        <translation>Hero</translation>
+    </message>
+    <message>
+        <source>Player position</source>
+        <translation>Player position</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+</context>
+<context>
+    <name>bonus_creature_dlg</name>
+    <message>
+        <source>Hero:</source>
+        <translation>Hero:</translation>
+    </message>
+    <message>
+        <source>Creature type:</source>
+        <translation>Creature type:</translation>
+    </message>
+    <message>
+        <source>Quantity:</source>
+        <translation>Quantity:</translation>
+    </message>
+</context>
+<context>
+    <name>bonus_dialog</name>
+    <message>
+        <source>Edit Starting Bonus</source>
+        <translation>Edit Starting Bonus</translation>
+    </message>
+    <message>
+        <source>Select a bonus type:</source>
+        <translation>Select a bonus type:</translation>
+    </message>
+    <message>
+        <source>Spell</source>
+        <translation>Spell</translation>
+    </message>
+    <message>
+        <source>Creature</source>
+        <translation>Creature</translation>
+    </message>
+    <message>
+        <source>Buildiing</source>
+        <translation>Buildiing</translation>
+    </message>
+    <message>
+        <source>Artifact</source>
+        <translation>Artifact</translation>
+    </message>
+    <message>
+        <source>Spell scroll</source>
+        <translation>Spell scroll</translation>
+    </message>
+    <message>
+        <source>Primary skill</source>
+        <translation>Primary skill</translation>
+    </message>
+    <message>
+        <source>Secondary skill</source>
+        <translation>Secondary skill</translation>
+    </message>
+    <message>
+        <source>Resource</source>
+        <translation>Resource</translation>
+    </message>
+</context>
+<context>
+    <name>bonus_multibox_dlg</name>
+    <message>
+        <source>Recipient:</source>
+        <translation>Recipient:</translation>
+    </message>
+    <message>
+        <source>Item 1:</source>
+        <translation>Item 1:</translation>
+    </message>
+    <message>
+        <source>Item 2:</source>
+        <translation>Item 2:</translation>
+    </message>
+    <message>
+        <source>Spell:</source>
+        <translation>Spell:</translation>
+    </message>
+    <message>
+        <source>Artifact:</source>
+        <translation>Artifact:</translation>
+    </message>
+    <message>
+        <source>Skill:</source>
+        <translation>Skill:</translation>
+    </message>
+    <message>
+        <source>Skill level:</source>
+        <translation>Skill level:</translation>
+    </message>
+    <message>
+        <source>Building:</source>
+        <translation>Building:</translation>
+    </message>
+</context>
+<context>
+    <name>bonus_value_dlg</name>
+    <message>
+        <source>Datatype:</source>
+        <translation>Datatype:</translation>
+    </message>
+    <message>
+        <source>Value1:</source>
+        <translation>Value1:</translation>
+    </message>
+    <message>
+        <source>Recipient:</source>
+        <translation>Recipient:</translation>
+    </message>
+    <message>
+        <source>Attack skill:</source>
+        <translation>Attack skill:</translation>
+    </message>
+    <message>
+        <source>Defense skill:</source>
+        <translation>Defense skill:</translation>
+    </message>
+    <message>
+        <source>Spell power:</source>
+        <translation>Spell power:</translation>
+    </message>
+    <message>
+        <source>Knowledge:</source>
+        <translation>Knowledge:</translation>
+    </message>
+    <message>
+        <source>Resource type:</source>
+        <translation>Resource type:</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Quantity</translation>
     </message>
 </context>
 <context>

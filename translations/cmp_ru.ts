@@ -24,6 +24,44 @@
     </message>
 </context>
 <context>
+    <name>HeroCrossover</name>
+    <message>
+        <source>Source scenario</source>
+        <translation>Исходный сценарий</translation>
+    </message>
+    <message>
+        <source>Player position</source>
+        <translation>Позиция игрока</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Добавить</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Изменить</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Удалить</translation>
+    </message>
+</context>
+<context>
+    <name>HeroCrossoverDialog</name>
+    <message>
+        <source>Edit Hero Crossover Option</source>
+        <translation>Вариант перехода героя</translation>
+    </message>
+    <message>
+        <source>Source scenario:</source>
+        <translation>Исходный сценарий:</translation>
+    </message>
+    <message>
+        <source>Player position:</source>
+        <translation>Позиция игрока:</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Eldmark Saga® Campaign Editor</source>
@@ -437,6 +475,176 @@ Ravn_settings.ini must be in Eldmark root folder.</source>
     <message>
         <source>Remove</source>
         <translation>Удалить</translation>
+    </message>
+</context>
+<context>
+    <name>StartingHeroDialog</name>
+    <message>
+        <source>Edit Starting Hero Option</source>
+        <translation>Вариант начального героя</translation>
+    </message>
+    <message>
+        <source>Player position:</source>
+        <translation>Позиция игрока:</translation>
+    </message>
+    <message>
+        <source>Hero Identity:</source>
+        <translation>Герой:</translation>
+    </message>
+</context>
+<context>
+    <name>StartingHeroOptions</name>
+    <message>
+        <source>Hero</source>
+        <translation>Герой</translation>
+    </message>
+    <message>
+        <source>Player position</source>
+        <translation>Позиция игрока</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Добавить</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Изменить</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Удалить</translation>
+    </message>
+</context>
+<context>
+    <name>bonus_creature_dlg</name>
+    <message>
+        <source>Hero:</source>
+        <translation>Герой:</translation>
+    </message>
+    <message>
+        <source>Creature type:</source>
+        <translation>Тип существа:</translation>
+    </message>
+    <message>
+        <source>Quantity:</source>
+        <translation>Количество:</translation>
+    </message>
+</context>
+<context>
+    <name>bonus_dialog</name>
+    <message>
+        <source>Edit Starting Bonus</source>
+        <translation>Изменение начального бонуса</translation>
+    </message>
+    <message>
+        <source>Select a bonus type:</source>
+        <translation>Выберите тип бонуса:</translation>
+    </message>
+    <message>
+        <source>Spell</source>
+        <translation>Заклинание</translation>
+    </message>
+    <message>
+        <source>Creature</source>
+        <translation>Существо</translation>
+    </message>
+    <message>
+        <source>Buildiing</source>
+        <translation>Постройка</translation>
+    </message>
+    <message>
+        <source>Artifact</source>
+        <translation>Артефакт</translation>
+    </message>
+    <message>
+        <source>Spell scroll</source>
+        <translation>Свиток с заклинанием</translation>
+    </message>
+    <message>
+        <source>Primary skill</source>
+        <translation>Первичный навык</translation>
+    </message>
+    <message>
+        <source>Secondary skill</source>
+        <translation>Вторичный навык</translation>
+    </message>
+    <message>
+        <source>Resource</source>
+        <translation>Ресурс</translation>
+    </message>
+</context>
+<context>
+    <name>bonus_multibox_dlg</name>
+    <message>
+        <source>Recipient:</source>
+        <translation>Получатель:</translation>
+    </message>
+    <message>
+        <source>Item 1:</source>
+        <translation>Предмет 1:</translation>
+    </message>
+    <message>
+        <source>Item 2:</source>
+        <translation>Предмет 2:</translation>
+    </message>
+    <message>
+        <source>Spell:</source>
+        <translation>Заклинание:</translation>
+    </message>
+    <message>
+        <source>Artifact:</source>
+        <translation>Артефакт:</translation>
+    </message>
+    <message>
+        <source>Skill:</source>
+        <translation>Навык:</translation>
+    </message>
+    <message>
+        <source>Skill level:</source>
+        <translation>Уровень навыка:</translation>
+    </message>
+    <message>
+        <source>Building:</source>
+        <translation>Постройка:</translation>
+    </message>
+</context>
+<context>
+    <name>bonus_value_dlg</name>
+    <message>
+        <source>Datatype:</source>
+        <translation>Тип данных:</translation>
+    </message>
+    <message>
+        <source>Value1:</source>
+        <translation>Значение 1:</translation>
+    </message>
+    <message>
+        <source>Recipient:</source>
+        <translation>Получатель:</translation>
+    </message>
+    <message>
+        <source>Attack skill:</source>
+        <translation>Атака:</translation>
+    </message>
+    <message>
+        <source>Defense skill:</source>
+        <translation>Защита:</translation>
+    </message>
+    <message>
+        <source>Spell power:</source>
+        <translation>Сила магии:</translation>
+    </message>
+    <message>
+        <source>Knowledge:</source>
+        <translation>Знание:</translation>
+    </message>
+    <message>
+        <source>Resource type:</source>
+        <translation>Тип ресурса:</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Количество</translation>
     </message>
 </context>
 <context>
