@@ -3,6 +3,10 @@
 
 #include "document/campaign_data.h"
 
+#include <tuple>
+
+constexpr unsigned int playerCount = std::tuple_size<decltype(MapHeader::players)>::value;
+
 // Null without a map and for a number that no player has.
 inline const PlayerAttributes *playerOnMap(const ScenarioData &scenario, unsigned int player)
 {

@@ -46,11 +46,14 @@ QString numbered(unsigned int number, const QString &name)
 
 } // namespace
 
+QString colourName(unsigned int player)
+{
+    return player < EditorData::colors.size() ? EditorData::colors[player] : QString();
+}
+
 QString getFullPlayerName(unsigned int player)
 {
-    const QString colour =
-        player < EditorData::colors.size() ? EditorData::colors[player] : QString();
-    return QObject::tr("Player %1 (%2)").arg(QString::number(player + 1), colour);
+    return QObject::tr("Player %1 (%2)").arg(QString::number(player + 1), colourName(player));
 }
 
 QString getHeroName(ScenarioData *scenario, unsigned int player, unsigned short hero,

@@ -17,6 +17,9 @@ constexpr unsigned short HeroIdMostPowerful = 0xFFFD; // the player's strongest 
 constexpr unsigned short HeroIdGenerated = 0xFFFE;    // the one that the main town brings forth
 constexpr unsigned short HeroIdRandom = 0xFFFF;
 
+// The name of the player's colour.
+QString colourName(unsigned int player);
+
 // The player's number, counted from 1, and the name of its colour.
 QString getFullPlayerName(unsigned int player);
 
