@@ -21,6 +21,9 @@ public:
     explicit HeroCrossover(QWidget *parent);
     ~HeroCrossover() override;
 
+    // The campaign that the sources come from. To be told for a scenario that isn't loaded as it
+    // has no map: it can get one later.
+    void setCampaign(CampaignData *campaign, unsigned int campaignMap);
     void initInfo(CampaignData *campaign, ScenarioData *scenario, unsigned int campaignMap);
     void saveScenarioInfo(HeroCrossoverSet *set);
     // Removes the rows of players whom no human can play; one behind a removed row waits for the
@@ -33,6 +36,7 @@ private:
     void addItem() override;
     void openEditMenu(QTableWidgetItem *item) override;
     void deleteItem() override;
+    void fillRows(const HeroCrossoverSet &set);
 
     const std::unique_ptr<Ui_HeroCrossover> ui;
     CampaignData *campaign = nullptr; // not owned

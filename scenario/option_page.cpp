@@ -34,6 +34,8 @@ void OptionPage::setUpTable(QTableWidget *table, QPushButton *add, QPushButton *
     columns->show();
     table->setSelectionMode(QAbstractItemView::SingleSelection);
 
+    disableButtons();
+
     // Pressed, not clicked: a row is at work as soon as the button goes down.
     connect(add, &QPushButton::pressed, this, &OptionPage::addItem);
     connect(edit, &QPushButton::pressed, this, &OptionPage::editItem);
@@ -63,6 +65,11 @@ void OptionPage::resetTable(int columns)
 {
     m_table->setRowCount(0);
     m_table->setColumnCount(columns);
+    disableButtons();
+}
+
+void OptionPage::disableButtons()
+{
     for (QPushButton *button : {m_add, m_edit, m_remove})
         button->setEnabled(false);
 }

@@ -37,7 +37,8 @@ public:
 protected:
     explicit OptionPage(QWidget *parent);
 
-    // The controls of the page's form, to be handed over once; it stays their owner.
+    // The controls of the page's form, to be handed over once; it stays their owner. The buttons
+    // are disabled until a scenario allows them.
     void setUpTable(QTableWidget *table, QPushButton *add, QPushButton *edit, QPushButton *remove);
     // A column is as wide as this share of the table, the last one takes what is left.
     void setColumnShare(int part, int whole);
@@ -71,6 +72,8 @@ private slots:
     void itemDoubleclicked(int row, int column);
 
 private:
+    void disableButtons();
+
     QTableWidget *m_table = nullptr;
     QPushButton *m_add = nullptr;
     QPushButton *m_edit = nullptr;

@@ -9,6 +9,7 @@
 
 class ScenarioInfo;
 class Ui_StartingHeroOptions;
+struct StartingHero;
 struct StartingHeroSet;
 
 class StartingHeroOptions : public OptionPage
@@ -21,14 +22,17 @@ public:
 
     void initInfo(ScenarioInfo *info, ScenarioData *scenario, unsigned int campaignMap);
     void saveScenarioInfo(StartingHeroSet *set);
-    // Removes the rows that the scenario's map doesn't allow.
+    // Removes the rows that the scenario's map doesn't allow. A row behind one of a player whom no
+    // human can play may wait for the next time.
     void validateOptions();
-    // Enables the adding of a row if there is room for it and a player who can take a hero.
+    // Lets a row be added exactly if there is room for it and a player who can take a hero.
     void checkAdd(ScenarioData *scenario, QTableWidgetItem *item);
 
 private:
     void addItem() override;
     void openEditMenu(QTableWidgetItem *item) override;
+    void deleteItem() override;
+    bool isAllowed(const StartingHero &option) const;
 
     ScenarioInfo *info = nullptr; // not owned
     const std::unique_ptr<Ui_StartingHeroOptions> ui;
