@@ -7,7 +7,6 @@
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QScrollBar>
-#include <QSignalSpy>
 #include <QStyleOptionGraphicsItem>
 #include <QWheelEvent>
 
@@ -380,17 +379,24 @@ void MapViewTest::doubleClickOpensTheScenario()
     QFETCH(bool, opens);
     MainWindow window(nullptr);
     QVERIFY(show(window));
-    action(window, "scenarioProperties")->setEnabled(true);
-    QSignalSpy opened(action(window, "scenarioProperties"), &QAction::triggered);
+    QStringList opened;
+    QTimer closing;
+    connect(&closing, &QTimer::timeout, &window, [&opened] {
+        if (QWidget *dialog = QApplication::activeModalWidget()) {
+            opened << dialog->windowTitle();
+            dialog->close();
+        }
+    });
+    closing.start(1);
     const QPoint place(210, 310);
     mapView(window)->setContextMenuPolicy(
         Qt::NoContextMenu); // its menu would take the second press
     clickOn(mapView(window)->viewport(), place, Qt::MouseButton(button));
     QCOMPARE(regionsOf(window)[2]->isSelected, selects);
-    QCOMPARE(opened.size(), 0);
+    QCOMPARE(opened, QStringList());
     QTest::mouseDClick(window.windowHandle(), Qt::MouseButton(button), {},
                        mapView(window)->viewport()->mapTo(&window, place));
-    QCOMPARE(opened.size(), opens ? 1 : 0);
+    QCOMPARE(opened, opens ? QStringList("Scenario Properties") : QStringList());
 }
 
 void MapViewTest::wheelNeverScrolls()
@@ -426,8 +432,7 @@ void MapViewTest::contextMenuOffersProperties()
     MainWindow window(nullptr);
     QVERIFY(show(window));
     QCOMPARE(mapView(window)->contextMenuPolicy(), Qt::CustomContextMenu);
-    action(window, "scenarioProperties")->setEnabled(true);
-    QSignalSpy opened(action(window, "scenarioProperties"), &QAction::triggered);
+    const NextDialog properties(closingDialog("Scenario Properties"));
     QStringList texts;
     QTimer::singleShot(0, &window, [&] {
         auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
@@ -440,7 +445,7 @@ void MapViewTest::contextMenuOffersProperties()
     QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(400, 500));
     QApplication::sendEvent(mapView(window)->viewport(), &event);
     QTRY_COMPARE(texts, QStringList("Properties..."));
-    QCOMPARE(opened.size(), 1);
+    QVERIFY(properties.came());
 }
 
 void MapViewTest::scenarioBrowserIsAnEmptyPage()

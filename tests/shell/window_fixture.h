@@ -103,6 +103,16 @@ inline QAction *action(MainWindow &window, const char *name)
     return window.findChild<QAction *>(name);
 }
 
+// Checks a dialog's title and closes it.
+inline NextDialog::Answer closingDialog(const QString &title)
+{
+    return [title](QWidget *dialog) {
+        const QString shown = dialog->windowTitle();
+        dialog->close();
+        QCOMPARE(shown, title);
+    };
+}
+
 // A colour as it comes out of a pixmap, which rounds half-transparent ones.
 inline QColor throughPixmap(const QColor &colour)
 {
