@@ -8,6 +8,8 @@
 #include <QObject>
 #include <QStringList>
 
+#include <array>
+
 namespace {
 
 // Resource numbers that stand for several resources at once, and the game's texts for them.

@@ -8,10 +8,8 @@
 #include "scenario/choice_box.h"
 #include "scenario/map_player.h"
 #include "scenario/starting_bonus_rules.h"
-#include "shell/right_click_filter.h"
 #include "ui_StartingBonus.h"
 
-#include <QAbstractItemView>
 #include <QDebug>
 #include <QScopedValueRollback>
 
@@ -32,9 +30,7 @@ StartingBonus::StartingBonus(QWidget *parent)
     ui->setupUi(this);
     setUpTable(ui->tableWidget, ui->addButton, ui->editButton, ui->removeButton);
     resetTable(1);
-    auto *filter = new RightClickFilter(this);
-    ui->playerCombobox->installEventFilter(filter);
-    ui->playerCombobox->view()->viewport()->installEventFilter(filter);
+    keepRightClicksOff({ui->playerCombobox}, this);
     ready = true;
     initSlotsAndSignals();
 }
@@ -98,7 +94,7 @@ void StartingBonus::fillPlayers()
 
 unsigned int StartingBonus::currentPlayer() const
 {
-    return ui->playerCombobox->currentData().toUInt();
+    return unsigned(choiceOf(ui->playerCombobox));
 }
 
 void StartingBonus::clearUI()

@@ -7,6 +7,8 @@
 
 #include <QDebug>
 
+#include <array>
+
 namespace {
 
 constexpr unsigned int randomTown = 0xFF;
