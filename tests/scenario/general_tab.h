@@ -2,6 +2,7 @@
 // prerequisites, click on its boxes, read the stored bits.
 #pragma once
 
+#include "scenario/scenario_general.h"
 #include "tests/scenario/scenario_fixture.h"
 
 #include <QLabel>
@@ -11,6 +12,18 @@ class GeneralTab : public OpenScenarioDialog
 {
 public:
     using OpenScenarioDialog::OpenScenarioDialog;
+
+    ScenarioGeneral *general() { return dialog.findChild<ScenarioGeneral *>(); }
+
+    // Other tabs have controls of the same names: those of this tab are looked for first.
+    template<typename Widget>
+    Widget *find(const char *name)
+    {
+        auto *widget = general()->findChild<Widget *>(name);
+        return widget ? widget : OpenScenarioDialog::find<Widget>(name);
+    }
+
+    void click(const char *button) { clickOn(find<QWidget>(button)); }
 
     QListWidget *prerequisites() { return find<QListWidget>("prereqListWidget"); }
 
@@ -101,4 +114,15 @@ inline void addRegions(int count)
         map.regions.last().name = "Reach " + QString::number(region);
     }
     map.regionCount = map.regions.size();
+}
+
+// One scenario on a map, one without.
+inline CampaignData twoScenarios(bool hasMap = true)
+{
+    CampaignData campaign = campaignOf(hasMap, {"isle", ""});
+    ScenarioData &first = campaign.scenarios[0];
+    first.regionColor = 3;
+    first.defaultDifficulty = 4;
+    first.regionText = "Beware of the marsh";
+    return campaign;
 }
