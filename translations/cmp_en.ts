@@ -455,6 +455,25 @@ Ravn_settings.ini must be in Eldmark root folder.</translation>
     </message>
 </context>
 <context>
+    <name>ScenarioStartOptions</name>
+    <message>
+        <source>Starting options are:</source>
+        <translation>Starting options are:</translation>
+    </message>
+    <message>
+        <source>Starting bonus options</source>
+        <translation>Starting bonus options</translation>
+    </message>
+    <message>
+        <source>Hero crossover options</source>
+        <translation>Hero crossover options</translation>
+    </message>
+    <message>
+        <source>Starting hero options</source>
+        <translation>Starting hero options</translation>
+    </message>
+</context>
+<context>
     <name>StartingBonus</name>
     <message>
         <source>Player position:</source>

@@ -455,6 +455,25 @@ Ravn_settings.ini must be in Eldmark root folder.</source>
     </message>
 </context>
 <context>
+    <name>ScenarioStartOptions</name>
+    <message>
+        <source>Starting options are:</source>
+        <translation>Что выбирает игрок в начале:</translation>
+    </message>
+    <message>
+        <source>Starting bonus options</source>
+        <translation>Начальные бонусы</translation>
+    </message>
+    <message>
+        <source>Hero crossover options</source>
+        <translation>Переход героя</translation>
+    </message>
+    <message>
+        <source>Starting hero options</source>
+        <translation>Начальные герои</translation>
+    </message>
+</context>
+<context>
     <name>StartingBonus</name>
     <message>
         <source>Player position:</source>

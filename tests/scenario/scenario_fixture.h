@@ -45,7 +45,8 @@ public:
     tiny::Game game;
 };
 
-// A scenario on a map of this file and this name. The map's bytes are nobody's but its own.
+// A scenario on a map of this file and this name, with the start option that the dialog gives to
+// one that nobody edits. The map's bytes are nobody's but its own.
 inline ScenarioData scenarioWithMap(const QString &fileName, const QString &mapName)
 {
     auto header = std::make_shared<MapHeader>();
@@ -56,6 +57,9 @@ inline ScenarioData scenarioWithMap(const QString &fileName, const QString &mapN
     scenario.mapHeader = std::move(header);
     scenario.compressedMap = "packed " + fileName.toUtf8();
     scenario.mapSize = quint32(scenario.compressedMap.size());
+    scenario.startOptions = std::make_shared<CmpScenarioStartOptions>();
+    scenario.startOptions->optionType = 1;
+    scenario.startOptions->optionData = QVariant::fromValue(StartingBonusSet());
     return scenario;
 }
 
@@ -116,6 +120,16 @@ inline void addStories(ScenarioData &scenario, const QString &text)
     for (std::size_t i = 0; i < scenario.prologues.size(); ++i) {
         scenario.prologues[i] = std::make_shared<CmpPrologue>(CmpPrologue{1, 34, text + " begins"});
         scenario.epilogues[i] = std::make_shared<CmpPrologue>(CmpPrologue{2, 35, text + " ends"});
+    }
+    // One who stands on the map, and any at all for a town that brings heroes forth.
+    if (scenario.mapHeader) {
+        auto header = std::make_shared<MapHeader>(*scenario.mapHeader);
+        header->players[2].canHuman = 1;
+        header->players[2].heroInfo = {{5, {}}};
+        header->players[3].canHuman = 1;
+        header->players[3].hasMainTown = 1;
+        header->players[3].generatesHero = 1;
+        scenario.mapHeader = std::move(header);
     }
     StartingHeroSet heroes;
     heroes.entries = {{2, 5}, {3, 0xFFFF}};
