@@ -10,6 +10,7 @@
 #include "shell/editor_resources.h"
 #include "shell/message_reporter.h"
 #include "tests/support/message_boxes.h"
+#include "tests/support/stored_options.h"
 #include "tests/support/tiny_game.h"
 
 #include <QApplication>
@@ -45,21 +46,20 @@ public:
     tiny::Game game;
 };
 
-// A scenario on a map of this file and this name, with the start option that the dialog gives to
-// one that nobody edits. The map's bytes are nobody's but its own.
+// A scenario on a map of this file and this name, as the dialog leaves one. The map's bytes are
+// nobody's but its own, and a human can play the first player.
 inline ScenarioData scenarioWithMap(const QString &fileName, const QString &mapName)
 {
     auto header = std::make_shared<MapHeader>();
     header->anyPlayers = 1;
+    header->players[0].canHuman = 1;
     header->mapName = mapName;
     ScenarioData scenario;
     scenario.mapFileName = fileName;
     scenario.mapHeader = std::move(header);
     scenario.compressedMap = "packed " + fileName.toUtf8();
     scenario.mapSize = quint32(scenario.compressedMap.size());
-    scenario.startOptions = std::make_shared<CmpScenarioStartOptions>();
-    scenario.startOptions->optionType = 1;
-    scenario.startOptions->optionData = QVariant::fromValue(StartingBonusSet());
+    scenario.startOptions = resourceBonuses(0);
     return scenario;
 }
 
@@ -114,28 +114,14 @@ inline QStringList requiredIn(const CampaignData &campaign)
     return rows;
 }
 
-// Fills what the first tab doesn't show: stories, start options, crossover.
+// Fills what the first tab doesn't show: three start options, as many stories, crossover.
 inline void addStories(ScenarioData &scenario, const QString &text)
 {
     for (std::size_t i = 0; i < scenario.prologues.size(); ++i) {
-        scenario.prologues[i] = std::make_shared<CmpPrologue>(CmpPrologue{1, 34, text + " begins"});
-        scenario.epilogues[i] = std::make_shared<CmpPrologue>(CmpPrologue{2, 35, text + " ends"});
+        scenario.prologues[i] = std::make_shared<CmpPrologue>(CmpPrologue{1, 2, text + " begins"});
+        scenario.epilogues[i] = std::make_shared<CmpPrologue>(CmpPrologue{2, 1, text + " ends"});
     }
-    // One who stands on the map, and any at all for a town that brings heroes forth.
-    if (scenario.mapHeader) {
-        auto header = std::make_shared<MapHeader>(*scenario.mapHeader);
-        header->players[2].canHuman = 1;
-        header->players[2].heroInfo = {{5, {}}};
-        header->players[3].canHuman = 1;
-        header->players[3].hasMainTown = 1;
-        header->players[3].generatesHero = 1;
-        scenario.mapHeader = std::move(header);
-    }
-    StartingHeroSet heroes;
-    heroes.entries = {{2, 5}, {3, 0xFFFF}};
-    scenario.startOptions = std::make_shared<CmpScenarioStartOptions>();
-    scenario.startOptions->optionType = 3;
-    scenario.startOptions->optionData = QVariant::fromValue(heroes);
+    scenario.startOptions = resourceBonuses(3);
     scenario.crossover.heroKeeps.fill(false);
     scenario.crossover.heroKeeps.setBit(2);
     scenario.crossover.artifacts.setBit(7);

@@ -24,8 +24,6 @@ private slots:
     void windowIsModalAndFixed();
     void tabsStandInOrder();
     void listTakesTwoSeventhsOfTheWidth();
-    void listNamesTheScenarios_data();
-    void listNamesTheScenarios();
     void regionIsSelectedFirst_data();
     void regionIsSelectedFirst();
     void tabsShowTheRegionGiven();
@@ -36,7 +34,7 @@ private slots:
     void savingTellsWhetherATabChanged();
     void whatControlsCannotShowStays_data();
     void whatControlsCannotShowStays();
-    void theOtherTabsLeaveTheirDataAlone();
+    void theOtherTabsKeepWhatNobodyEdits();
     void buttonsCloseTheDialog_data();
     void buttonsCloseTheDialog();
     void aCampaignWithoutScenariosOpens();
@@ -159,27 +157,6 @@ void ScenarioInfoTest::listTakesTwoSeventhsOfTheWidth()
     QCOMPARE(layout->count(), 2);
     QCOMPARE(layout->stretch(0), 2);
     QCOMPARE(layout->stretch(1), 5);
-}
-
-void ScenarioInfoTest::listNamesTheScenarios_data()
-{
-    QTest::addColumn<bool>("hasMap");
-    QTest::addColumn<QStringList>("texts");
-    QTest::newRow("regions") << true
-                             << QStringList{QString::fromUtf8("one.e3m — Alder Bay"),
-                                            QString::fromUtf8("Empty — Birch Hill"),
-                                            QString::fromUtf8("three.e3m — Cedar Fen")};
-    QTest::newRow("a chain") << false << QStringList{"1. one.e3m", "2. Empty", "3. three.e3m"};
-}
-
-void ScenarioInfoTest::listNamesTheScenarios()
-{
-    QFETCH(bool, hasMap);
-    CampaignData campaign = campaignOf(hasMap, {"one", "", "three"});
-    OpenScenarioDialog open(campaign);
-    QTEST(open.texts(), "texts");
-    for (int row = 0; row < open.list()->count(); ++row)
-        QCOMPARE(open.list()->item(row)->data(Qt::UserRole), QVariant(row));
 }
 
 void ScenarioInfoTest::regionIsSelectedFirst_data()
@@ -326,7 +303,7 @@ void ScenarioInfoTest::whatControlsCannotShowStays()
     }
 }
 
-void ScenarioInfoTest::theOtherTabsLeaveTheirDataAlone()
+void ScenarioInfoTest::theOtherTabsKeepWhatNobodyEdits()
 {
     CampaignData campaign = campaignOf(true, {"one", "two", ""});
     addStories(campaign.scenarios[0], "first");

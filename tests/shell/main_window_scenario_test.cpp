@@ -1,8 +1,10 @@
 // The way from the window into the scenario dialog and back: what is taken over, and what isn't.
 #include "document/campaign_data.h"
+#include "scenario/scenario_general.h"
 #include "scenario/scenario_info.h"
 #include "tests/shell/window_fixture.h"
 #include "tests/support/file_contents.h"
+#include "tests/support/stored_options.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -38,7 +40,7 @@ private slots:
     void dialogOpensAgain();
 
 private:
-    // A window on a campaign of map 24 with maps in the first two regions.
+    // A window on a campaign of map 24 with maps in the first two regions, as the dialog leaves it.
     std::unique_ptr<MainWindow> windowOnRegions();
     std::unique_ptr<MainWindow> windowOnChain(int scenarios);
     CampaignData savedBy(MainWindow &window);
@@ -93,6 +95,11 @@ void press(ScenarioInfo &dialog, const char *button)
     clickOn(dialog.findChild<QWidget *>(button));
 }
 
+void removeMap(ScenarioInfo &dialog)
+{
+    clickOn(dialog.findChild<ScenarioGeneral *>()->findChild<QPushButton *>("removeButton"));
+}
+
 void editText(ScenarioInfo &dialog)
 {
     dialog.findChild<QTextEdit *>("regionTextEdit")->setPlainText("edited");
@@ -106,7 +113,16 @@ void editAll(ScenarioInfo &dialog)
     choose(dialog, "difficultyCombobox", 4);
     press(dialog, "downBtn");
     selectRow(dialog, 0);
-    press(dialog, "removeButton");
+    removeMap(dialog);
+}
+
+CampaignData campaignIn(const QString &path)
+{
+    CampaignData campaign;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || campaign.readCampaign(&file))
+        QTest::qFail("The campaign can't be read.", __FILE__, __LINE__);
+    return campaign;
 }
 
 QVector<qint64> picturesIn(MainWindow &window)
@@ -122,8 +138,14 @@ QVector<qint64> picturesIn(MainWindow &window)
 std::unique_ptr<MainWindow> MainWindowScenarioTest::windowOnRegions()
 {
     auto window = std::make_unique<MainWindow>(nullptr);
-    window->loadFile(fixture->game.addCampaign(
-        "regions.e3c", tiny::campaign(24, {{true, 1}, {true, 3}, {false, 5}})));
+    const QString path = fixture->game.addCampaign(
+        "regions.e3c", tiny::campaign(24, {{true, 1}, {true, 3}, {false, 5}}));
+    CampaignData campaign = campaignIn(path);
+    for (std::size_t i = 0; i < 2; ++i)
+        campaign.scenarios[i].startOptions = resourceBonuses(0);
+    if (!campaign.saveTo(path).ok)
+        QTest::qFail("The campaign can't be saved.", __FILE__, __LINE__);
+    window->loadFile(path);
     return window;
 }
 
@@ -152,11 +174,7 @@ QByteArray MainWindowScenarioTest::bytesOf(MainWindow &window)
 CampaignData MainWindowScenarioTest::savedBy(MainWindow &window)
 {
     bytesOf(window);
-    CampaignData campaign;
-    QFile file(fixture->game.filePath("Maps/saved.e3c"));
-    if (!file.open(QIODevice::ReadOnly) || campaign.readCampaign(&file))
-        QTest::qFail("The saved campaign can't be read.", __FILE__, __LINE__);
-    return campaign;
+    return campaignIn(fixture->game.filePath("Maps/saved.e3c"));
 }
 
 void MainWindowScenarioTest::dialogShowsTheSelectedRegion()
@@ -216,10 +234,6 @@ void MainWindowScenarioTest::acceptedWithoutEditsIsNoChange()
     QVERIFY(!EditorData::info.modified);
     QCOMPARE(window->windowTitle(), "regions.e3c - " + title);
     QCOMPARE(picturesIn(*window), pictures);
-    const CampaignData saved = savedBy(*window);
-    QCOMPARE(saved.scenarios.size(), std::size_t(3));
-    QCOMPARE(saved.scenarios[1].mapFileName, QString("a.e3m"));
-    QCOMPARE(int(saved.scenarios[2].regionColor), 5);
 }
 
 void MainWindowScenarioTest::acceptedEditsAreTakenOver()
@@ -331,7 +345,7 @@ void MainWindowScenarioTest::onlyRegionsThatLookDifferentAreDrawnAnew()
     accept(*window, [&](ScenarioInfo &dialog) {
         selectRow(dialog, region);
         if (control == "removeButton")
-            press(dialog, control);
+            removeMap(dialog);
         else
             choose(dialog, control, 4);
     });
@@ -348,10 +362,11 @@ void MainWindowScenarioTest::storiesComeBackWhole()
     CampaignData told = savedBy(*window);
     for (std::size_t i = 0; i < 3; ++i) {
         told.scenarios[0].prologues[i] =
-            std::make_shared<CmpPrologue>(CmpPrologue{1, 34, "It begins"});
+            std::make_shared<CmpPrologue>(CmpPrologue{1, 2, "It begins"});
         told.scenarios[0].epilogues[i] =
-            std::make_shared<CmpPrologue>(CmpPrologue{2, 35, "It ends"});
+            std::make_shared<CmpPrologue>(CmpPrologue{2, 1, "It ends"});
     }
+    told.scenarios[0].startOptions = resourceBonuses(3);
     told.scenarios[0].crossover.creatures.setBit(9);
     const QString path = fixture->game.filePath("Maps/told.e3c");
     QVERIFY(told.saveTo(path).ok);
