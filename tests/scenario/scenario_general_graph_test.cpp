@@ -1,28 +1,40 @@
 // Clicks on prerequisites in graphs of chance, held against a model that follows the rules by
-// itself: it keeps sets and closes them anew after each click.
+// itself: it closes the graph anew after each click.
 #include "tests/scenario/general_tab.h"
 
 #include <QRandomGenerator>
-#include <QSet>
+
+#include <bitset>
 
 namespace {
 
-using Graph = QVector<QSet<int>>; // the direct prerequisites of each scenario
+constexpr int mostScenarios = 20;
 
-// What each scenario requires, directly or through others, by squaring until nothing is new.
+using Scenarios = std::bitset<mostScenarios>;
+using Graph = QVector<Scenarios>; // the direct prerequisites of each scenario
+
+// What each scenario requires, directly or through others: ways through the first scenario, then
+// those through the second as well, and so on.
 Graph closureOf(const Graph &direct)
 {
     Graph closure = direct;
-    for (bool grown = true; grown;) {
-        grown = false;
-        for (QSet<int> &required : closure) {
-            const QSet<int> before = required;
-            for (const int j : before)
-                required |= closure[j];
-            grown |= required.size() != before.size();
+    for (int through = 0; through < closure.size(); ++through) {
+        for (Scenarios &required : closure) {
+            if (required[std::size_t(through)])
+                required |= closure[through];
         }
     }
     return closure;
+}
+
+bool has(const Scenarios &scenarios, int scenario)
+{
+    return scenarios[std::size_t(scenario)];
+}
+
+void put(Scenarios &scenarios, int scenario, bool in = true)
+{
+    scenarios.set(std::size_t(scenario), in);
 }
 
 // A campaign's graph and the list shown for the selected scenario, kept by the rules alone.
@@ -31,49 +43,51 @@ struct Model
     Graph direct;
     QVector<bool> hasMap;
     int selected = 0;
-    QSet<int> takenAway; // unchecked in the list though still implied, until it is loaded anew
+    Scenarios takenAway; // unchecked in the list though still implied, until it is loaded anew
 
     void select(int scenario)
     {
         selected = scenario;
-        takenAway.clear();
+        takenAway.reset();
     }
 
     void check(int x)
     {
-        const QSet<int> implied = closureOf(direct)[x];
-        direct[selected].insert(x);
-        direct[selected] -= implied;
-        takenAway -= implied;
-        takenAway.remove(x);
+        const Scenarios implied = closureOf(direct)[x];
+        put(direct[selected], x);
+        direct[selected] &= ~implied;
+        takenAway &= ~implied;
+        put(takenAway, x, false);
         for (int k = 0; k < direct.size(); ++k) {
-            if (k != selected && direct[k].contains(selected))
-                direct[k].remove(x);
+            if (k != selected && has(direct[k], selected))
+                put(direct[k], x, false);
         }
     }
 
     void uncheck(int x)
     {
-        const QSet<int> implied = closureOf(direct)[x];
-        direct[selected].remove(x);
+        const Scenarios implied = closureOf(direct)[x];
+        put(direct[selected], x, false);
         direct[selected] |= implied;
-        takenAway -= implied;
-        takenAway.insert(x);
+        takenAway &= ~implied;
+        put(takenAway, x);
         for (int k = 0; k < direct.size(); ++k) {
-            if (k != selected && direct[k].contains(selected))
-                direct[k].insert(x);
+            if (k != selected && has(direct[k], selected))
+                put(direct[k], x);
         }
     }
 
     void removeMap()
     {
         for (int k = 0; k < direct.size(); ++k) {
-            if (k != selected && direct[k].remove(selected))
-                direct[k] |= direct[selected];
+            if (k == selected || !has(direct[k], selected))
+                continue;
+            direct[k] |= direct[selected];
+            put(direct[k], selected, false);
         }
-        direct[selected].clear();
+        direct[selected].reset();
         hasMap[selected] = false;
-        takenAway.clear();
+        takenAway.reset();
     }
 
     QStringList list() const
@@ -84,13 +98,12 @@ struct Model
             if (i == selected || !hasMap[i])
                 continue;
             const QString number = QString::number(i);
-            if (direct[selected].contains(i))
+            const bool requiresThis = has(closure[i], selected);
+            if (has(direct[selected], i))
                 rows << number + " checked";
-            else if (takenAway.contains(i))
-                rows << number + " free";
-            else if (closure[selected].contains(i))
+            else if (has(closure[selected], i) && !has(takenAway, i))
                 rows << number + " implied";
-            else if (!closure[i].contains(selected))
+            else if (!requiresThis)
                 rows << number + " free";
         }
         return rows;
@@ -101,7 +114,7 @@ struct Model
 Model randomModel(QRandomGenerator &random)
 {
     Model model;
-    const int count = random.bounded(2, 21);
+    const int count = random.bounded(2, mostScenarios + 1);
     QVector<int> order;
     for (int i = 0; i < count; ++i)
         order.insert(random.bounded(i + 1), i);
@@ -112,10 +125,20 @@ Model randomModel(QRandomGenerator &random)
         model.hasMap[i] = random.bounded(6) > 0;
         for (int before = 0; before < i; ++before) {
             if (random.bounded(count) < density)
-                model.direct[order[i]].insert(order[before]);
+                put(model.direct[order[i]], order[before]);
         }
     }
     return model;
+}
+
+QList<int> listOf(const Scenarios &scenarios)
+{
+    QList<int> list;
+    for (int i = 0; i < mostScenarios; ++i) {
+        if (has(scenarios, i))
+            list << i;
+    }
+    return list;
 }
 
 CampaignData campaignOfModel(const Model &model)
@@ -125,7 +148,7 @@ CampaignData campaignOfModel(const Model &model)
         names << (model.hasMap[i] ? "m" + QString::number(i) : QString());
     CampaignData campaign = campaignOf(true, names);
     for (int i = 0; i < model.direct.size(); ++i)
-        require(campaign, i, model.direct[i].values());
+        require(campaign, i, listOf(model.direct[i]));
     return campaign;
 }
 
@@ -133,7 +156,7 @@ bool hasCycle(const Graph &direct)
 {
     const Graph closure = closureOf(direct);
     for (int i = 0; i < closure.size(); ++i) {
-        if (closure[i].contains(i))
+        if (has(closure[i], i))
             return true;
     }
     return false;
@@ -144,7 +167,9 @@ Graph storedIn(GeneralTab &tab)
     Graph graph;
     for (int i = 0; i < int(tab.copy().scenarios.size()); ++i) {
         const QList<int> stored = tab.storedFor(i);
-        graph << QSet<int>(stored.begin(), stored.end());
+        graph << Scenarios();
+        for (const int required : stored)
+            put(graph.last(), required);
     }
     return graph;
 }
@@ -154,17 +179,17 @@ void compareReach(const Graph &old, const Graph &now, const Graph &directBefore,
                   bool checked)
 {
     for (int k = 0; k < old.size(); ++k) {
-        QSet<int> expected = old[k];
-        if (checked && (k == s || old[k].contains(s))) {
+        Scenarios expected = old[k];
+        if (checked && (k == s || has(old[k], s))) {
             expected |= old[x];
-            expected.insert(x);
+            put(expected, x);
         }
         if (!checked && k == s) {
             bool impliedByAnother = false;
-            for (const int other : directBefore[s])
-                impliedByAnother |= other != x && old[other].contains(x);
+            for (const int other : listOf(directBefore[s]))
+                impliedByAnother |= other != x && has(old[other], x);
             if (!impliedByAnother)
-                expected.remove(x);
+                put(expected, x, false);
         }
         QCOMPARE(now[k], expected);
     }
@@ -222,8 +247,11 @@ void ScenarioGeneralGraphTest::step(GeneralTab &tab, Model &model, QRandomGenera
         tab.click("removeButton");
         model.removeMap();
         const Graph now = closureOf(storedIn(tab));
-        for (int k = 0; k < old.size(); ++k)
-            QCOMPARE(now[k], k == s ? QSet<int>() : old[k] - QSet<int>{s});
+        for (int k = 0; k < old.size(); ++k) {
+            Scenarios expected = k == s ? Scenarios() : old[k];
+            put(expected, s, false);
+            QCOMPARE(now[k], expected);
+        }
         return;
     }
     const QStringList rows = model.list().filter(QRegExp("checked|free"));
@@ -297,7 +325,7 @@ void ScenarioGeneralGraphTest::checksAloneOnlyAddReach()
     const Graph closure = closureOf(storedIn(tab));
     for (int a = 1; a < closure.size(); ++a) {
         for (int b = 0; b < a; ++b)
-            QVERIFY(closure[a].contains(b) != closure[b].contains(a));
+            QVERIFY(has(closure[a], b) != has(closure[b], a));
     }
 }
 
