@@ -23,19 +23,14 @@ HeroCrossover::HeroCrossover(QWidget *parent)
 
 HeroCrossover::~HeroCrossover() = default;
 
-void HeroCrossover::setCampaign(CampaignData *newCampaign, unsigned int newCampaignMap)
-{
-    campaign = newCampaign;
-    campaignMap = newCampaignMap;
-}
-
 // A scenario without a stored option starts without the adding of rows: updateUI allows it once
 // the scenario's map has changed.
 void HeroCrossover::initInfo(CampaignData *newCampaign, ScenarioData *newScenario,
                              unsigned int newCampaignMap)
 {
-    setCampaign(newCampaign, newCampaignMap);
+    campaign = newCampaign;
     scenario = newScenario;
+    campaignMap = newCampaignMap;
     resetTable(2);
     if (scenario->startOptions) {
         if (scenario->startOptions->optionType == crossoverOption)

@@ -21,9 +21,6 @@ public:
     explicit HeroCrossover(QWidget *parent);
     ~HeroCrossover() override;
 
-    // The campaign that the sources come from. To be told for a scenario that isn't loaded as it
-    // has no map: it can get one later.
-    void setCampaign(CampaignData *campaign, unsigned int campaignMap);
     void initInfo(CampaignData *campaign, ScenarioData *scenario, unsigned int campaignMap);
     void saveScenarioInfo(HeroCrossoverSet *set);
     // Removes the rows of players whom no human can play; one behind a removed row waits for the
