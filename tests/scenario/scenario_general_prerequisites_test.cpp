@@ -23,6 +23,7 @@ private slots:
     void oneClickIsAChange();
     void listIsThatOfTheSelectedScenario();
     void cyclesInAFileHarmNothing();
+    void twoThatRequireEachOtherHarmNothing();
     void ownBitHarmsNothing();
     void bitsOfAbsentScenariosHarmNothing();
     void shortArraysGrow();
@@ -225,6 +226,18 @@ void ScenarioGeneralPrerequisitesTest::cyclesInAFileHarmNothing()
     }
     for (int scenario = 0; scenario < 4; ++scenario)
         QCOMPARE(tab.storedFor(scenario), QList<int>());
+}
+
+void ScenarioGeneralPrerequisitesTest::twoThatRequireEachOtherHarmNothing()
+{
+    CampaignData campaign = campaignOf(true, {"a", "b"});
+    require(campaign, 0, {1});
+    require(campaign, 1, {0});
+    GeneralTab tab(campaign);
+    QCOMPARE(tab.shownPrerequisites(), QStringList({"1 checked"}));
+    tab.clickOnBoxOf(1);
+    QCOMPARE(tab.storedFor(0), QList<int>());
+    QCOMPARE(tab.storedFor(1), QList<int>({0}));
 }
 
 void ScenarioGeneralPrerequisitesTest::ownBitHarmsNothing()
