@@ -8,16 +8,17 @@
 
 namespace {
 
-// Makes the bonus that much gold and accepts it.
-NextDialog::Answer makingItGold(int amount)
+// Makes the bonus that much gold and presses a button.
+NextDialog::Answer makingItGold(int amount,
+                                QDialogButtonBox::StandardButton button = QDialogButtonBox::Ok)
 {
-    return [amount](QWidget *dialog) {
+    return [amount, button](QWidget *dialog) {
         clickOn(dialog->findChild<QRadioButton *>("resourceBtn"));
         QWidget *resources = dialog->findChild<QStackedWidget *>("stackedWidget")->currentWidget();
         auto *kinds = resources->findChild<QComboBox *>("datatypeBox");
         kinds->setCurrentIndex(kinds->findText("Gold"));
         resources->findChild<QSpinBox *>("spinBox")->setValue(amount);
-        clickOn(dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Ok));
+        clickOn(dialog->findChild<QDialogButtonBox *>("buttonBox")->button(button));
     };
 }
 
@@ -75,7 +76,7 @@ void StartingBonusRowsTest::aRejectedDialogAddsNothing()
     BonusPage test;
     test.load({{1, humanWithHulda()}, {2, human()}}, 1, {hulda});
     {
-        NextDialog dialog(choose({}, QDialogButtonBox::Cancel));
+        NextDialog dialog(makingItGold(8, QDialogButtonBox::Cancel));
         test.click("addButton");
     }
     QCOMPARE(test.texts(), QStringList({huldaText}));
@@ -105,7 +106,7 @@ void StartingBonusRowsTest::aButtonThatOpenedADialogComesUpAgain()
     BonusPage test;
     test.load({{1, human()}}, 1, {gold});
     {
-        NextDialog dialog(choose({}, QDialogButtonBox::Cancel));
+        NextDialog dialog(makingItGold(8, QDialogButtonBox::Cancel));
         test.click("addButton");
     }
     QVERIFY(!test.button("addButton")->isDown());
@@ -142,7 +143,7 @@ void StartingBonusRowsTest::aRejectedDialogLeavesTheRow()
     test.load({{1, humanWithHulda()}}, 1, {hulda, strongest});
     test.clickRow(0);
     {
-        NextDialog dialog(choose({}, QDialogButtonBox::Cancel));
+        NextDialog dialog(makingItGold(8, QDialogButtonBox::Cancel));
         test.click("editButton");
     }
     QCOMPARE(test.texts(), QStringList({huldaText, strongestText}));

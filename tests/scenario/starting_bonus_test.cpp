@@ -27,7 +27,7 @@ private slots:
     void savesTheRowsInTheirOrder();
     void savesPlayerZeroWithoutPlayers();
     void listingPlayersJudgesNothing();
-    void withoutAScenarioNoPlayersAreListed();
+    void withoutAMapNoPlayersAreListed();
     void clearingTakesRowsAndPlayersAway();
     void theScenarioMayMove();
     void rightClicksDoNothingToTheList();
@@ -227,7 +227,7 @@ void StartingBonusTest::listingPlayersJudgesNothing()
     QCOMPARE(test.enabledButtons(), QString("add"));
 }
 
-void StartingBonusTest::withoutAScenarioNoPlayersAreListed()
+void StartingBonusTest::withoutAMapNoPlayersAreListed()
 {
     BonusPage test;
     test.page.initUI();
@@ -239,6 +239,9 @@ void StartingBonusTest::withoutAScenarioNoPlayersAreListed()
     test.scenario.mapHeader = mapWithPlayers({{1, human()}});
     test.page.initUI();
     QCOMPARE(test.players()->count(), 1);
+    test.scenario.mapHeader = nullptr;
+    test.page.initUI();
+    QCOMPARE(test.players()->count(), 1); // as they were
 }
 
 void StartingBonusTest::clearingTakesRowsAndPlayersAway()

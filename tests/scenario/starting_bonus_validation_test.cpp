@@ -15,6 +15,7 @@ private slots:
     void aChoiceOfPlayerLeavesEditingOfTheCurrentRow();
     void anotherPlayersHeroIsGoneForGood();
     void aHeroOfBothPlayersStays();
+    void noChoiceOfPlayerJudgesNothing();
     void theStrongestHeroSurvivesEverything();
     void theGeneratedHeroNeedsFlagAndTown_data();
     void theGeneratedHeroNeedsFlagAndTown();
@@ -93,6 +94,14 @@ void StartingBonusValidationTest::aHeroOfBothPlayersStays()
     BonusPage test;
     test.load({{1, humanWithHulda()}, {2, humanWithHulda()}}, 1, {hulda});
     test.choosePlayer("Tan");
+    QCOMPARE(test.texts(), QStringList({huldaText}));
+}
+
+void StartingBonusValidationTest::noChoiceOfPlayerJudgesNothing()
+{
+    BonusPage test;
+    test.load({{2, humanWithHulda()}}, 2, {hulda});
+    test.players()->setCurrentIndex(-1);
     QCOMPARE(test.texts(), QStringList({huldaText}));
 }
 
