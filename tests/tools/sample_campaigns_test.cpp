@@ -16,6 +16,8 @@ private slots:
     void everyTrackThatStoriesPlayIsThere();
     void mapsAreOfEveryVersion_data();
     void mapsAreOfEveryVersion();
+    void mapsForRulesHaveTheirPlayers_data();
+    void mapsForRulesHaveTheirPlayers();
     void faultyMapsAreFaultyInTheirOwnWay();
     void campaignsReadToTheirEnd_data();
     void campaignsReadToTheirEnd();
@@ -103,6 +105,79 @@ void SampleCampaignsTest::mapsAreOfEveryVersion()
     QCOMPARE(map.heroesOnMap, heroes);
     QCOMPARE(map.availableBits, availableBits);
     QVERIFY(map.exact);
+}
+
+// A player in words: who may play it, the type of its main town with "+" if it brings a hero forth,
+// and its heroes on the map.
+void SampleCampaignsTest::mapsForRulesHaveTheirPlayers_data()
+{
+    QTest::addColumn<QStringList>("players");
+    QTest::addColumn<QVector<int>>("locked");
+    QTest::addColumn<QVector<int>>("custom");
+    const QVector<int> nobody;
+    const QString none = QStringLiteral("computer none []");
+    const auto row = [](const char *name, const QStringList &players, const QVector<int> &locked,
+                        const QVector<int> &custom) {
+        QTest::newRow(name) << players << locked << custom;
+    };
+    row("Empty Thrones",
+        {"computer 0+ [2]", none, "computer 4+ []", none, none, none, "computer 255+ []", none},
+        nobody, nobody);
+    row("Second Sons",
+        {"human 0 []", "human 1+ [5, 28 Elowyn the Younger]", none, "human 2+ []", none, none, none,
+         none},
+        nobody, nobody);
+    row("Foundling Hall",
+        {"human 3+ []", "human 6 []", "human none [61]", "human none []", none, none, none, none},
+        nobody, nobody);
+    row("The Wandering Fair",
+        {"human 255+ []", "human 255 [15]", "human 8+ []", none, none, none, none, none}, nobody,
+        nobody);
+    row("Eight Hearths",
+        {"human 0+ []", "human 1 []", "human 2+ []", "human 3 []", "human 4+ []", "human 5 []",
+         "human 6+ []", "human 7 []"},
+        nobody, nobody);
+    row("Three Far Hearths",
+        {"human 8+ []", "human 9 []", "human 10+ []", none, none, none, none, none}, nobody,
+        nobody);
+    row("The Roll of Names",
+        {"human 0+ [2 Corvane Two-Shadows, 5, 2, 10]", "human 1+ [5 Fennick, or so he says]", none,
+         none, none, none, none, none},
+        {10, 11, 15, 16}, {15, 30});
+    row("The Split Crown",
+        {"human 0+ [2, 5 Fennick Halfcrown]", "human 1+ [28]", "human 5+ [61]", "computer 7+ []",
+         none, none, none, none},
+        {16}, nobody);
+    row("The Split Crown, Mended",
+        {"human 255 [2]", "computer 1+ []", "human none [61 Harrakesh the Landless]", "human 7+ []",
+         none, none, none, none},
+        {11, 15, 16}, {15});
+}
+
+void SampleCampaignsTest::mapsForRulesHaveTheirPlayers()
+{
+    QFETCH(QVector<int>, locked);
+    const QString name = QLatin1String(QTest::currentDataTag());
+    const Inflated plain = inflated(m_game.file(QStringLiteral("Maps/%1.e3m").arg(name)));
+    QVERIFY(plain.complete);
+    const MapRecord map = readMap(plain.content);
+    QVERIFY(map.exact);
+    QCOMPARE(map.anyPlayers, 1);
+    QCOMPARE(map.name, name);
+    QVERIFY(!map.description.isEmpty());
+    QStringList players;
+    for (const MapPlayerRecord &player : map.players) {
+        const QString town =
+            player.mainTown < 0 ? QStringLiteral("none") : QString::number(player.mainTown);
+        players += QStringLiteral("%1 %2%3 [%4]")
+                       .arg(player.human ? "human" : "computer", town, player.heroInTown ? "+" : "",
+                            player.heroes.join(", "));
+    }
+    QTEST(players, "players");
+    QCOMPARE(map.available.size(), map.availableBits - locked.size());
+    for (const int hero : qAsConst(locked))
+        QVERIFY(!map.available.contains(hero));
+    QTEST(map.customHeroes, "custom");
 }
 
 void SampleCampaignsTest::faultyMapsAreFaultyInTheirOwnWay()

@@ -223,15 +223,23 @@ namespace {
 
 void readPlayer(ByteCursor &cursor, MapRecord &map)
 {
-    map.humans += cursor.u8() != 0 ? 1 : 0;
+    map.players.push_back({});
+    MapPlayerRecord &player = map.players.last();
+    player.human = cursor.u8() != 0;
+    map.humans += player.human ? 1 : 0;
     cursor.raw(2);
     if (map.version != 21)
         cursor.u8();
     if (map.version > 14)
         cursor.u16();
     cursor.u8();
-    if (cursor.u8() == 1)
-        cursor.raw(map.version > 14 ? 5 : 3);
+    if (cursor.u8() == 1) {
+        if (map.version > 14) {
+            player.heroInTown = cursor.u8() != 0;
+            player.mainTown = cursor.u8();
+        }
+        cursor.raw(3);
+    }
     cursor.u8();
     if (cursor.u8() != 255) {
         cursor.u8();
@@ -242,8 +250,9 @@ void readPlayer(ByteCursor &cursor, MapRecord &map)
     cursor.u8();
     const int heroes = cursor.i32();
     for (int i = 0; i < heroes && cursor.ok(); ++i) {
-        cursor.u8();
-        cursor.text();
+        const QString hero = QString::number(cursor.u8());
+        const QString name = QString::fromUtf8(cursor.text());
+        player.heroes += name.isEmpty() ? hero : hero + QLatin1Char(' ') + name;
     }
     map.heroesOnMap += heroes;
 }
@@ -267,13 +276,14 @@ void readHeroLists(ByteCursor &cursor, MapRecord &map)
     map.availableBits = map.version == 14 ? 128 : 160;
     if (map.version >= 32)
         map.availableBits = cursor.i32();
-    cursor.bits(map.availableBits);
+    map.available = cursor.bits(map.availableBits);
     if (map.version > 14)
         cursor.raw(cursor.i32());
     if (map.version > 21) {
         const int heroes = cursor.u8();
         for (int i = 0; i < heroes && cursor.ok(); ++i) {
-            cursor.raw(2);
+            map.customHeroes.push_back(cursor.u8());
+            cursor.raw(1);
             cursor.text();
             cursor.u8();
         }

@@ -102,11 +102,21 @@ struct CampaignRecord
 // An unpacked first member; the count is that of the campaign map's regions.
 CampaignRecord readCampaign(const QByteArray &header, int regions, int creatures, int artifacts);
 
+struct MapPlayerRecord
+{
+    bool human = false;
+    int mainTown = -1; // its type, 255 for a random one; -1 for none and in the oldest maps
+    bool heroInTown = false;
+    QStringList heroes; // on the map, "2" or "2 Name"
+};
+
 struct MapRecord
 {
     int version = 0, subVersion = 0, anyPlayers = 0;
     QString name, description;
     int humans = 0, heroesOnMap = 0, availableBits = 0;
+    QVector<MapPlayerRecord> players;
+    QVector<int> available, customHeroes;
     bool exact = false; // the reserved zeros stand where the fields lead to
 };
 

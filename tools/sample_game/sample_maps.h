@@ -46,8 +46,8 @@ struct MapFile
     QByteArray content;
 };
 
-// All that goes into the folder Maps: the sound maps, one without players, one that isn't packed,
-// one whose end is missing.
+// All that goes into the folder Maps: the sound maps, those on which the rules of start options
+// bite, one without players, one that isn't packed, one whose end is missing.
 std::vector<MapFile> mapFiles();
 
 } // namespace sample
