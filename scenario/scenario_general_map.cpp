@@ -61,8 +61,7 @@ void ScenarioGeneral::refreshMap()
     if (scenario->compressedMap != oldMap || scenario->mapFileName != oldName)
         setChanged();
     updateUI();
-    if (!hadMap)
-        addPrerequisiteUI();
+    addPrerequisiteUI(); // as stored: a click that was ignored may have left its mark
     if (ScenarioHost *host = hostOf(this)) {
         host->updateScenarioData(scenario);
         host->updateCurrentItem();
