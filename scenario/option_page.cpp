@@ -2,9 +2,10 @@
 
 #include "shell/dialog_look.h"
 
-#include <QEvent>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QPushButton>
+#include <QToolTip>
 
 namespace {
 
@@ -22,6 +23,8 @@ void OptionPage::setUpTable(QTableWidget *table, QPushButton *add, QPushButton *
     m_edit = edit;
     m_remove = remove;
     table->setShowGrid(false);
+    table->setWordWrap(false); // a row has room for one line
+    table->viewport()->installEventFilter(this);
     QHeaderView *rows = table->verticalHeader();
     rows->hide();
     rows->setMinimumSectionSize(1); // or the font would forbid the rows' height
@@ -58,7 +61,23 @@ bool OptionPage::eventFilter(QObject *watched, QEvent *event)
         const int width = m_table->width() * m_sharePart / m_shareWhole;
         m_table->horizontalHeader()->setDefaultSectionSize(width);
     }
+    if (watched == m_table->viewport() && event->type() == QEvent::ToolTip) {
+        showWholeText(*static_cast<QHelpEvent *>(event));
+        return true;
+    }
     return QWidget::eventFilter(watched, event);
+}
+
+// Said to be rich, for otherwise a name with markup in it would be taken for that.
+void OptionPage::showWholeText(const QHelpEvent &event)
+{
+    const QModelIndex index = m_table->indexAt(event.pos());
+    const bool cut = index.isValid() &&
+                     m_table->sizeHintForIndex(index).width() > m_table->visualRect(index).width();
+    const QString whole =
+        cut ? QStringLiteral("<qt>%1</qt>").arg(index.data().toString().toHtmlEscaped())
+            : QString();
+    QToolTip::showText(event.globalPos(), whole, m_table->viewport());
 }
 
 void OptionPage::resetTable(int columns)

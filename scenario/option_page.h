@@ -14,6 +14,7 @@
 #include <set>
 #include <vector>
 
+class QHelpEvent;
 class QPushButton;
 class ScenarioData;
 
@@ -72,6 +73,9 @@ private slots:
     void itemDoubleclicked(int row, int column);
 
 private:
+    // As a tool tip, of a text that its column cuts.
+    void showWholeText(const QHelpEvent &event);
+
     void disableButtons();
 
     QTableWidget *m_table = nullptr;

@@ -4,6 +4,8 @@
 #include "tests/support/report_recorder.h"
 
 #include <QHeaderView>
+#include <QHelpEvent>
+#include <QToolTip>
 #include <QtTest>
 
 class StartingBonusTest : public QObject
@@ -31,6 +33,7 @@ private slots:
     void clearingTakesRowsAndPlayersAway();
     void theScenarioMayMove();
     void rightClicksDoNothingToTheList();
+    void aTextThatIsCutIsToldWhole();
 };
 
 void StartingBonusTest::init()
@@ -272,6 +275,26 @@ void StartingBonusTest::rightClicksDoNothingToTheList()
     BonusPage test;
     test.load({{1, human()}, {2, human()}}, 1, {});
     verifyRightClicksDoNothing(test.players());
+}
+
+void StartingBonusTest::aTextThatIsCutIsToldWhole()
+{
+    EditorData::heroes[6] = QStringLiteral("<b>Gorim</b> ") + QString(100, 'm');
+    BonusPage test;
+    test.load({{1, human()}}, 1, {gold, bonusWith(0, BonusSpell{6, 1})});
+    const auto pointAt = [&](int row) {
+        QWidget *viewport = test.table()->viewport();
+        const QPoint place = test.table()->visualItemRect(test.item(row)).center();
+        QHelpEvent event(QEvent::ToolTip, place, viewport->mapToGlobal(place));
+        QCoreApplication::sendEvent(viewport, &event);
+    };
+    pointAt(1);
+    const QString whole = QToolTip::text();
+    QVERIFY(whole.startsWith("<qt>Give Ember spell to &lt;b&gt;Gorim&lt;/b&gt; mmm"));
+    QVERIFY(whole.endsWith("mmm (in town)</qt>"));
+    pointAt(0); // which is not cut
+    QTRY_VERIFY(!QToolTip::isVisible());
+    QVERIFY(!test.table()->wordWrap());
 }
 
 QTEST_MAIN(StartingBonusTest)
