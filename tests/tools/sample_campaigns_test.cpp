@@ -146,11 +146,11 @@ void SampleCampaignsTest::mapsForRulesHaveTheirPlayers_data()
         {10, 11, 15, 16}, {15, 30});
     row("The Split Crown",
         {"human 0+ [2, 5 Fennick Halfcrown]", "human 1+ [28]", "human 5+ [61]", "computer 7+ []",
-         none, none, none, none},
+         "human 9+ []", none, none, none},
         {16}, nobody);
     row("The Split Crown, Mended",
         {"human 255 [2]", "computer 1+ []", "human none [61 Harrakesh the Landless]", "human 7+ []",
-         none, none, none, none},
+         "human 9+ []", none, none, none},
         {11, 15, 16}, {15});
 }
 

@@ -100,12 +100,14 @@ MapPlan splitCrown()
     map.players[Blue] = human(1, {{kElowyn, {}}});
     map.players[Tan] = human(5, {{kHarrakesh, {}}});
     map.players[Green] = computer(7);
+    map.players[Orange] = human(9, {});
     map.lockedHeroes = {kQuilla};
     return map;
 }
 
 // Red's town is anybody's and brings nobody forth, and Fennick has left; Blue is out of it; Tan
-// lost a town, Green won the right to be played, and two more heroes can't be hired.
+// lost a town, Green won the right to be played, and two more heroes can't be hired. Only Orange
+// stands as before.
 MapPlan splitCrownMended()
 {
     MapPlan map = plan("The Split Crown, Mended", 28, 0,
@@ -114,6 +116,7 @@ MapPlan splitCrownMended()
     map.players[Blue] = computer(1);
     map.players[Tan] = wanderer({{kHarrakesh, QStringLiteral("Harrakesh the Landless")}});
     map.players[Green] = human(7, {});
+    map.players[Orange] = human(9, {});
     map.lockedHeroes = {kQuilla, kLuthard, kPelham};
     map.customHeroes = {{kPelham, kPelham, QStringLiteral("Pelham the Goldsmith"), 0x08}};
     return map;
