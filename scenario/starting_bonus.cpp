@@ -1,12 +1,11 @@
 #include "scenario/starting_bonus.h"
 
 #include "document/campaign_data.h"
-#include "gamedata/editor_data.h"
 #include "scenario/bonus_dialog.h"
 #include "scenario/bonus_text.h"
 #include "scenario/bonus_type.h"
 #include "scenario/choice_box.h"
-#include "scenario/map_player.h"
+#include "scenario/naming.h"
 #include "scenario/starting_bonus_rules.h"
 #include "ui_StartingBonus.h"
 
@@ -83,12 +82,12 @@ void StartingBonus::loadBonuses(const StartingBonusSet &set)
 void StartingBonus::fillPlayers()
 {
     ui->playerCombobox->clear();
-    if (!scenario)
+    if (!scenario || !scenario->mapHeader)
         return;
-    for (unsigned int player = 0; player < EditorData::colors.size(); ++player) {
-        const PlayerAttributes *attributes = playerOnMap(*scenario, player);
-        if (attributes && attributes->canHuman)
-            ui->playerCombobox->addItem(EditorData::colors[player], int(player));
+    const auto &players = scenario->mapHeader->players;
+    for (unsigned int player = 0; player < players.size(); ++player) {
+        if (players[player].canHuman)
+            ui->playerCombobox->addItem(colourName(player), int(player));
     }
 }
 

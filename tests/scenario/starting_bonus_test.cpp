@@ -19,6 +19,7 @@ private slots:
     void theTableIsAPlainList();
     void startsEmpty();
     void offersThePlayersAHumanCanPlay();
+    void playersWithoutAColourAreOfferedToo();
     void loadsTheBonuses();
     void loadedRowsAreNotJudged();
     void loadsNothingOfAnotherKind_data();
@@ -102,6 +103,15 @@ void StartingBonusTest::offersThePlayersAHumanCanPlay()
         QCOMPARE(int(test.players()->itemData(i).type()), int(QMetaType::Int));
     }
     QCOMPARE(test.players()->currentText(), QString("Purple"));
+}
+
+void StartingBonusTest::playersWithoutAColourAreOfferedToo()
+{
+    EditorData::colors.resize(2);
+    BonusPage test;
+    test.load({{1, human()}, {6, human()}}, 6, {});
+    QCOMPARE(textsOf(test.players()), QStringList({"Blue", ""}));
+    QCOMPARE(int(test.saved().player), 6);
 }
 
 void StartingBonusTest::loadsTheBonuses()
