@@ -1,14 +1,15 @@
-// The names that every dialog of a scenario shows: of heroes, players and scenarios; and which
-// heroes a map disables. Free functions without a state.
+// The names that every dialog of a scenario shows: of heroes and players, and of scenarios by way
+// of document/scenario_names; and which heroes a map disables. Free functions without a state.
 //
-// Numbers beyond their table are absent entries: a hero, colour or region without a name, a player
-// without heroes, a scenario without a map. The texts are of the context QObject.
+// Numbers beyond their table are absent entries: a hero or colour without a name, a player without
+// heroes. The texts are of the context QObject.
 #pragma once
+
+#include "document/scenario_names.h"
 
 #include <QBitArray>
 #include <QString>
 
-class CampaignData;
 class QComboBox;
 class ScenarioData;
 
@@ -42,11 +43,3 @@ void addHeroesToCombobox(QComboBox *box, ScenarioData *scenario, unsigned int pl
 QBitArray getDisabledHeroes(ScenarioData *scenario, unsigned int player);
 // Looks a hero up in what getDisabledHeroes answers; the three special numbers never are disabled.
 bool HeroIsDisabled(QBitArray &disabled, unsigned int hero);
-
-// A scenario by its map's file name: with the region's name on a campaign map, numbered from 1
-// without one. `campaignMap` is the key of EditorData::campaignInfo.
-QString getScenarioFilename(CampaignData *campaign, unsigned int campaignMap,
-                            unsigned int scenario);
-// A scenario by its map's title: with the region's name on a campaign map, numbered from 0 without
-// one.
-QString getScenarioName(CampaignData *campaign, unsigned int campaignMap, unsigned int scenario);
