@@ -57,7 +57,6 @@ private slots:
     void removingARowAllowsAddingIfASourceIsFree();
     void removingARowOfNoPrerequisiteForbidsAdding();
     void savesTheRowsInOrder();
-    void updateUIOnlyAllows();
     void followsTheScenarioToAnotherPlace();
 
 private:
@@ -236,10 +235,12 @@ void HeroCrossoverTest::aSourceThatNoRecordCanNameIsNone()
     m_campaign->require({255, 256});
     load({});
     QCOMPARE(m_shown->enabledButtons(), QString("add"));
-    const NextDialog dialog([](QWidget *opened) {
-        QCOMPARE(textsOf(childOf<QComboBox>(opened, sourceBox)), QStringList("255. No scenario"));
-        choose({})(opened);
-    });
+    const NextDialog dialog(lookAndChoose(
+        [](QWidget *opened) {
+            QCOMPARE(textsOf(childOf<QComboBox>(opened, sourceBox)),
+                     QStringList("255. No scenario"));
+        },
+        {}, QDialogButtonBox::Ok));
     m_shown->click("addButton");
     QCOMPARE(rowsOnShow(), Rows({{0, 255}}));
 }
@@ -318,11 +319,12 @@ void HeroCrossoverTest::editsTheSelectedRow()
 {
     load({{0, 0}, {1, 2}});
     m_shown->clickRow(1, 1);
-    const NextDialog dialog([](QWidget *opened) {
-        QCOMPARE(childOf<QComboBox>(opened, sourceBox)->currentText(), QString("2. Coast"));
-        QCOMPARE(childOf<QComboBox>(opened, playerBox)->currentText(), QString("Blue"));
-        choose({{sourceBox, "3. Ridge"}, {playerBox, "Red"}})(opened);
-    });
+    const NextDialog dialog(lookAndChoose(
+        [](QWidget *opened) {
+            QCOMPARE(childOf<QComboBox>(opened, sourceBox)->currentText(), QString("2. Coast"));
+            QCOMPARE(childOf<QComboBox>(opened, playerBox)->currentText(), QString("Blue"));
+        },
+        {{sourceBox, "3. Ridge"}, {playerBox, "Red"}}, QDialogButtonBox::Ok));
     m_shown->click("editButton");
     QCOMPARE(m_shown->rows(), QStringList({"0. Thaw | Player 1 (Red)", //
                                            "3. Ridge | Player 1 (Red)"}));
@@ -341,11 +343,12 @@ void HeroCrossoverTest::editingFromTheSecondColumnHidesTheRowsSource()
 {
     load({{0, 2}});
     for (int column = 0; column < 2; ++column) {
-        const NextDialog dialog([column](QWidget *opened) {
-            const QStringList sources = textsOf(childOf<QComboBox>(opened, sourceBox));
-            QCOMPARE(sources.contains("2. Coast"), column == 0);
-            choose({}, QDialogButtonBox::Cancel)(opened);
-        });
+        const NextDialog dialog(lookAndChoose(
+            [column](QWidget *opened) {
+                const QStringList sources = textsOf(childOf<QComboBox>(opened, sourceBox));
+                QCOMPARE(sources.contains("2. Coast"), column == 0);
+            },
+            {}, QDialogButtonBox::Cancel));
         m_shown->openEditMenu(m_shown->item(0, column));
     }
 }
@@ -376,16 +379,6 @@ void HeroCrossoverTest::savesTheRowsInOrder()
     delete m_shown->table()->takeItem(1, 0); // a row without an item is no offer
     QCOMPARE(rowsOnShow(), Rows({{1, 3}, {2, 2}}));
     QCOMPARE(m_shown->rowHeights(), QList<int>({17, 18, 17}));
-}
-
-void HeroCrossoverTest::updateUIOnlyAllows()
-{
-    load({{0, 0}, {0, 2}, {0, 3}});
-    m_shown->page.updateUI();
-    QCOMPARE(m_shown->enabledButtons(), QString());
-    m_shown->button("addButton")->setEnabled(true);
-    m_shown->page.updateUI();
-    QCOMPARE(m_shown->enabledButtons(), QString("add"));
 }
 
 void HeroCrossoverTest::followsTheScenarioToAnotherPlace()

@@ -28,6 +28,7 @@ private slots:
     void clickingARowAllowsWorkOnIt();
     void nothingIsEditedWithoutASelection();
     void removingASelectedRowAllowsAdding();
+    void updateUIOnlyAllows();
     void clearingDropsTheRows();
     void columnsFollowTheWidth();
 
@@ -171,6 +172,22 @@ void OptionPageTest::removingASelectedRowAllowsAdding()
         shown.clickRow(0);
         shown.click("removeButton");
         QCOMPARE(shown.enabledButtons(), QString("add"));
+    });
+}
+
+// Three rows are the most: two leave room for another, three forbid nothing that is allowed.
+void OptionPageTest::updateUIOnlyAllows()
+{
+    onBoth([](auto &shown) {
+        shown.button("addButton")->setEnabled(false);
+        shown.page.updateUI();
+        QCOMPARE(shown.enabledButtons(), QString("add"));
+        shown.table()->setRowCount(3);
+        shown.page.updateUI();
+        QCOMPARE(shown.enabledButtons(), QString("add"));
+        shown.button("addButton")->setEnabled(false);
+        shown.page.updateUI();
+        QCOMPARE(shown.enabledButtons(), QString());
     });
 }
 

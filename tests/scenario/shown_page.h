@@ -76,6 +76,17 @@ inline NextDialog::Answer choose(const QVector<Choice> &choices,
     };
 }
 
+// The same after a look at the dialog, which closes whatever that finds.
+inline NextDialog::Answer lookAndChoose(const NextDialog::Answer &look,
+                                        const QVector<Choice> &choices,
+                                        QDialogButtonBox::StandardButton button)
+{
+    return [=](QWidget *dialog) {
+        look(dialog);
+        choose(choices, button)(dialog);
+    };
+}
+
 template<typename Page>
 class ShownPage
 {

@@ -266,11 +266,13 @@ void StartingHeroOptionsTest::editsTheSelectedRow()
 {
     load({{0, 1}, {1, 3}});
     m_shown->clickRow(1, 1);
-    const NextDialog dialog([](QWidget *opened) {
-        QCOMPARE(childOf<QComboBox>(opened, playerBox)->currentText(), QString("Player 2 (Blue)"));
-        QCOMPARE(childOf<QComboBox>(opened, heroBox)->currentText(), QString("Dessa (on map)"));
-        choose({{heroBox, "Random hero (in town)"}})(opened);
-    });
+    const NextDialog dialog(lookAndChoose(
+        [](QWidget *opened) {
+            QCOMPARE(childOf<QComboBox>(opened, playerBox)->currentText(),
+                     QString("Player 2 (Blue)"));
+            QCOMPARE(childOf<QComboBox>(opened, heroBox)->currentText(), QString("Dessa (on map)"));
+        },
+        {{heroBox, "Random hero (in town)"}}, QDialogButtonBox::Ok));
     m_shown->click("editButton");
     QCOMPARE(m_shown->rows(), QStringList({"Ser Berin (on map) | Player 1 (Red)",
                                            "Random hero (in town) | Player 2 (Blue)"}));
@@ -292,11 +294,12 @@ void StartingHeroOptionsTest::editingFromTheSecondColumnHidesTheRowsHero()
 {
     load({{0, 1}});
     for (int column = 0; column < 2; ++column) {
-        const NextDialog dialog([column](QWidget *opened) {
-            const QStringList heroes = textsOf(childOf<QComboBox>(opened, heroBox));
-            QCOMPARE(heroes.contains("Ser Berin (on map)"), column == 0);
-            choose({}, QDialogButtonBox::Cancel)(opened);
-        });
+        const NextDialog dialog(lookAndChoose(
+            [column](QWidget *opened) {
+                const QStringList heroes = textsOf(childOf<QComboBox>(opened, heroBox));
+                QCOMPARE(heroes.contains("Ser Berin (on map)"), column == 0);
+            },
+            {}, QDialogButtonBox::Cancel));
         m_shown->openEditMenu(m_shown->item(0, column));
     }
 }
