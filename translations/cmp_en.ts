@@ -223,6 +223,24 @@ Ravn_settings.ini must be in Eldmark root folder.</source>
         <translation>Eldmark Campaign Editor cannot be launched because Ravn_settings.ini was not found. 
 Ravn_settings.ini must be in Eldmark root folder.</translation>
     </message>
+    <message>
+        <source>Text files (*.txt);;All Files (*)</source>
+        <translation>Text files (*.txt);;All Files (*)</translation>
+    </message>
+    <message>
+        <source>Cannot read file %1 - incorrect campaign text:
+%2.</source>
+        <translation>Cannot read file %1 - incorrect campaign text:
+%2.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Cannot read file %1. Map has errors.</source>
+        <translation>Cannot read file %1. Map has errors.</translation>
+    </message>
 </context>
 <context>
     <name>MyQGraphicsView</name>

@@ -223,6 +223,24 @@ Ravn_settings.ini must be in Eldmark root folder.</source>
         <translation>Редактор кампаний Eldmark не может быть запущен: файл Ravn_settings.ini не найден. 
 Файл Ravn_settings.ini должен находиться в корневой папке Eldmark.</translation>
     </message>
+    <message>
+        <source>Text files (*.txt);;All Files (*)</source>
+        <translation>Текстовые файлы (*.txt);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>Cannot read file %1 - incorrect campaign text:
+%2.</source>
+        <translation>Не удалось прочитать файл %1 — неверный текст кампании:
+%2.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Открыть</translation>
+    </message>
+    <message>
+        <source>Cannot read file %1. Map has errors.</source>
+        <translation>Не удалось прочитать файл %1. В карте есть ошибки.</translation>
+    </message>
 </context>
 <context>
     <name>MyQGraphicsView</name>
