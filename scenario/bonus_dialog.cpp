@@ -86,6 +86,9 @@ BonusDialog::BonusDialog(QWidget *parent, ScenarioData *newScenario, unsigned in
         ui->buildingBtn->setEnabled(false);
     addPages(item);
     alignPages();
+    // Taken out and put back, so that the Tab key reaches it behind the pages, which are younger.
+    ui->buttonBox->setParent(nullptr);
+    ui->verticalLayout->addWidget(ui->buttonBox);
     fixDialog(this);
 
     const unsigned int stored = item ? item->data(bonusTypeRole).toUInt() : 0;
@@ -127,8 +130,7 @@ void BonusDialog::addPages(QTableWidgetItem *item)
     resourcePage->initAsResources(item);
 }
 
-// So that the fields stand still when the page changes, and the Tab key reaches them before the
-// dialog's own buttons, which are older.
+// So that the fields stand still when the page changes.
 void BonusDialog::alignPages()
 {
     const auto labels = ui->stackedWidget->findChildren<QLabel *>();
@@ -137,12 +139,6 @@ void BonusDialog::alignPages()
         widest = std::max(widest, label->sizeHint().width());
     for (QLabel *label : labels)
         label->setMinimumWidth(widest);
-
-    QWidget *before = ui->stackedWidget->findChildren<QAbstractSpinBox *>().constLast();
-    for (QAbstractButton *button : ui->buttonBox->buttons()) {
-        setTabOrder(before, button);
-        before = button;
-    }
 }
 
 void BonusDialog::initSlotsAndSignals()
