@@ -23,6 +23,10 @@ constexpr qint64 campaignTextBytes = qint64(24) * 1024 * 1024;
 // What a bonus takes in memory, which is far more than in the file; counted as text.
 constexpr qint64 bonusBytes = 96;
 
+// A file of a campaign's texts: all of them in an encoding of twice the length, and the lines
+// around them.
+constexpr qint64 textFileBytes = qint64(64) * 1024 * 1024;
+
 // Bits of an array that are made even where the file ends before them.
 constexpr quint32 bitsWithoutData = 65536;
 

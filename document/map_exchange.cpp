@@ -1,0 +1,63 @@
+#include "document/map_exchange.h"
+
+#include "document/campaign_data.h"
+#include "document/map_file_name.h"
+#include "gamedata/report.h"
+#include "gamedata/safe_save.h"
+
+#include <QDebug>
+#include <QFile>
+
+namespace {
+
+constexpr int mapRefused = -1;
+constexpr int mapUnreadable = 0;
+
+QString pathOf(const QString &folder, const QString &name)
+{
+    return QStringLiteral("%1/%2").arg(folder, name);
+}
+
+} // namespace
+
+// A scenario that names a map and has none of its bytes, as one read from a torn file, leaves
+// alone what the author has under that name.
+void exportMapsTo(const QString &folder, const CampaignData &campaign, const TellMapFailure &tell)
+{
+    for (const ScenarioData &scenario : campaign.scenarios) {
+        const QString name = bareMapFileName(scenario.mapFileName);
+        if (name.isEmpty() || scenario.compressedMap.isEmpty())
+            continue;
+        const QString path = pathOf(folder, name);
+        const SaveResult result = saveFileSafely(path, {scenario.compressedMap});
+        if (!result.ok) {
+            tell(mainWindowText(QT_TRANSLATE_NOOP("MainWindow", "Cannot write file %1:\n%2."))
+                     .arg(path, result.error));
+        }
+    }
+}
+
+MapRefresh refreshMapsFrom(const QString &folder, CampaignData &campaign,
+                           const TellMapFailure &tell)
+{
+    for (ScenarioData &scenario : campaign.scenarios) {
+        const QString name = bareMapFileName(scenario.mapFileName);
+        if (name.isEmpty())
+            continue;
+        QFile file(pathOf(folder, name));
+        qDebug() << file.fileName();
+        if (!file.open(QIODevice::ReadOnly) && !file.exists())
+            return {false, name};
+        const int result = scenario.ReadMapFromFile(&file);
+        if (result == mapRefused) {
+            tell(mainWindowText(
+                     QT_TRANSLATE_NOOP("MainWindow", "Cannot read file %1. Map has errors."))
+                     .arg(name));
+        } else if (result == mapUnreadable) {
+            tell(mainWindowText(QT_TRANSLATE_NOOP("MainWindow", "Cannot read file %1:\n%2."))
+                     .arg(name, file.errorString()));
+            return {};
+        }
+    }
+    return {true, {}};
+}

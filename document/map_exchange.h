@@ -1,0 +1,31 @@
+// The maps of a campaign as files of their own in a folder: written out, and read in again after
+// somebody has changed them.
+//
+// The files are named as the campaign names its maps, without any folder (document/map_file_name),
+// so they all lie in the folder given. A map without a name is passed over.
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+class CampaignData;
+
+// Tells what went wrong with one map, in the words of the main window.
+using TellMapFailure = std::function<void(const QString &text)>;
+
+// Writes the maps' bytes as they were imported, over files that are there. One that can't be
+// written is told, and the next one follows.
+void exportMapsTo(const QString &folder, const CampaignData &campaign, const TellMapFailure &tell);
+
+struct MapRefresh
+{
+    bool complete = false;
+    QString missing; // the name of the file that isn't there, of which nothing is told
+};
+
+// Imports each scenario's map from its file, in order. A map that is refused is told and stays as
+// it was. A file that isn't there or can't be read, which is told, ends it; the maps before it are
+// refreshed then and those behind it aren't.
+MapRefresh refreshMapsFrom(const QString &folder, CampaignData &campaign,
+                           const TellMapFailure &tell);
