@@ -11,9 +11,10 @@ constexpr const char *pathKey = "Path";
 
 } // namespace
 
-QString usedFolder()
+QString usedFolder(const QString &otherwise)
 {
-    return QString::fromUtf8(ini->GetStringVal(editorSection, pathKey, ""));
+    const QString used = QString::fromUtf8(ini->GetStringVal(editorSection, pathKey, ""));
+    return used.isEmpty() ? otherwise : used;
 }
 
 void rememberFolderOf(const QString &file)

@@ -4,8 +4,8 @@
 
 #include <QString>
 
-// Empty if none was used yet.
-QString usedFolder();
+// The one given if none was used yet.
+QString usedFolder(const QString &otherwise = {});
 
 // Keeps the folder of a file that was chosen. In memory only, until the settings are written.
 void rememberFolderOf(const QString &file);

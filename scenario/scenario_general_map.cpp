@@ -137,8 +137,7 @@ void ScenarioGeneral::passPrerequisitesOn()
 // The folder used last, and in it the name of the scenario's map.
 QString ScenarioGeneral::startPath() const
 {
-    const QString used = usedFolder();
-    const QString folder = used.isEmpty() ? getGameDir(QStringLiteral("Maps")).path() : used;
+    const QString folder = usedFolder(getGameDir(QStringLiteral("Maps")).path());
     const QString name = bareMapFileName(scenario->mapFileName);
     return name.isEmpty() ? folder : folder + '/' + name;
 }
