@@ -50,11 +50,7 @@ constexpr std::array<ToolTipRow, 12> toolTipRows{{
 }};
 
 // Commands whose dialogs the editor doesn't have yet.
-constexpr std::array<QAction * Ui_MainWindow::*, 6> unavailableActions{{
-    &Ui_MainWindow::actionExport_Texts,
-    &Ui_MainWindow::actionImport_Texts,
-    &Ui_MainWindow::actionRefresh_Scenario_Maps,
-    &Ui_MainWindow::actionExport_Scenario_Maps,
+constexpr std::array<QAction * Ui_MainWindow::*, 2> unavailableActions{{
     &Ui_MainWindow::campaignProperties,
     &Ui_MainWindow::actionConvertCmp,
 }};
@@ -146,6 +142,10 @@ void MainWindow::initSlotsAndSignals()
     connect(ui->actionOpen, &QAction::triggered, this, &MainWindow::open);
     connect(ui->actionSave, &QAction::triggered, this, &MainWindow::save);
     connect(ui->actionSave_As, &QAction::triggered, this, &MainWindow::saveAs);
+    connect(ui->actionExport_Texts, &QAction::triggered, this, &MainWindow::exportTexts);
+    connect(ui->actionImport_Texts, &QAction::triggered, this, &MainWindow::importTexts);
+    connect(ui->actionExport_Scenario_Maps, &QAction::triggered, this, &MainWindow::exportMaps);
+    connect(ui->actionRefresh_Scenario_Maps, &QAction::triggered, this, &MainWindow::refreshMaps);
     connect(ui->actionExit, &QAction::triggered, this, &MainWindow::quit);
     connect(ui->scenarioProperties, &QAction::triggered, this, &MainWindow::openScenarioProperties);
     connect(ui->actionAbout, &QAction::triggered, this, &MainWindow::about);

@@ -58,6 +58,9 @@ public:
     // A path without its folders.
     QString strippedName(const QString &path);
 
+    // Tells that a file isn't one of this campaign's texts.
+    void showCmpTextReadingError(const QString &path, QFile &file);
+
     // Runs the dialog on the scenario of the selected region and, if it is accepted, takes its
     // campaign over; a rejected one changes nothing.
     void showScenarioPropertiesDlg();
@@ -77,6 +80,11 @@ private slots:
     // False if the file could not be written; a file dialog that was cancelled is no failure.
     bool save();
     bool saveAs();
+    void exportTexts();
+    void importTexts();
+    // Next to the campaign's file, or in the current folder if it has none.
+    void exportMaps();
+    void refreshMaps();
     void quit();
     void openScenarioProperties();
     void about();
@@ -90,6 +98,9 @@ private:
     void addBackground(const QImage &picture);
     void addRegion(int index);
     unsigned int askSaveChanges();
+    // The file's name without folder and endings, "Untitled" if the campaign has none.
+    QString documentName() const;
+    QString documentFolder() const;
 
     QLabel *hintLabel = nullptr; // Qt owns these three
     QLabel *regionLabel = nullptr;

@@ -19,21 +19,9 @@ namespace {
 
 constexpr quint32 mapOfCampaignsWithoutMap = 24;
 
-QString untitled()
-{
-    return QStringLiteral("Untitled");
-}
-
 QString mapsFolder()
 {
     return getGameDir(QStringLiteral("Maps")).path();
-}
-
-// The folder used last, or the given one.
-QString startFolder(const QString &otherwise)
-{
-    const QString used = usedFolder();
-    return used.isEmpty() ? otherwise : used;
 }
 
 } // namespace
@@ -62,7 +50,7 @@ void MainWindow::newFile()
 
 void MainWindow::open()
 {
-    const QString folder = startFolder(getGameDir(QStringLiteral("Maps")).canonicalPath());
+    const QString folder = usedFolder(getGameDir(QStringLiteral("Maps")).canonicalPath());
     const QString path = QFileDialog::getOpenFileName(
         this, tr("Open Map File"), folder, tr("Eldmark Saga campaign (*.e3c);;All Files (*)"));
     if (path.isEmpty())
@@ -102,12 +90,11 @@ bool MainWindow::save()
 
 bool MainWindow::saveAs()
 {
-    const QString name = currentFile.isEmpty() ? untitled() : QFileInfo(currentFile).baseName();
-    QFileDialog dialog(this, tr("Save As"), startFolder(mapsFolder()),
+    QFileDialog dialog(this, tr("Save As"), usedFolder(mapsFolder()),
                        tr("Eldmark Saga campaign (*.e3c);;All Files (*)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("e3c"));
-    dialog.selectFile(name);
+    dialog.selectFile(documentName());
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return true;
     const QString path = dialog.selectedFiles().constFirst();
@@ -137,6 +124,11 @@ void MainWindow::processInfo(QApplication *)
         loadFile(arguments[1]);
 }
 
+QString MainWindow::documentName() const
+{
+    return currentFile.isEmpty() ? QStringLiteral("Untitled") : QFileInfo(currentFile).baseName();
+}
+
 QString MainWindow::strippedName(const QString &path)
 {
     return QFileInfo(path).fileName();
@@ -146,10 +138,9 @@ QString MainWindow::strippedName(const QString &path)
 // to go on would lose what was to be saved.
 unsigned int MainWindow::askSaveChanges()
 {
-    const QString name = currentFile.isEmpty() ? untitled() : QFileInfo(currentFile).baseName();
     QMessageBox box;
     box.setWindowTitle(cmpEditorTitle());
-    box.setText(tr("Save changes to %1?").arg(name));
+    box.setText(tr("Save changes to %1?").arg(documentName()));
     box.setTextFormat(Qt::PlainText);
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
     box.setDefaultButton(QMessageBox::Yes);

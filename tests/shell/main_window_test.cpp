@@ -239,12 +239,12 @@ void MainWindowTest::recentFileActionsAreHiddenAtFirst()
 void MainWindowTest::commandsWithoutDialogsAreDisabled()
 {
     MainWindow window(nullptr);
-    for (const char *name :
-         {"actionExport_Texts", "actionImport_Texts", "actionRefresh_Scenario_Maps",
-          "actionExport_Scenario_Maps", "campaignProperties", "actionConvertCmp"})
+    for (const char *name : {"campaignProperties", "actionConvertCmp"})
         QVERIFY2(!action(window, name)->isEnabled(), name);
-    for (const char *name : {"actionNew", "actionOpen", "actionSave", "actionSave_As", "actionExit",
-                             "actionAbout", "scenarioProperties"})
+    for (const char *name :
+         {"actionNew", "actionOpen", "actionSave", "actionSave_As", "actionExport_Texts",
+          "actionImport_Texts", "actionRefresh_Scenario_Maps", "actionExport_Scenario_Maps",
+          "actionExit", "actionAbout", "scenarioProperties"})
         QVERIFY2(action(window, name)->isEnabled(), name);
 }
 

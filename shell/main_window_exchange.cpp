@@ -1,0 +1,94 @@
+// The commands that carry texts and maps between the campaign and files of their own.
+#include "shell/main_window.h"
+
+#include "document/map_exchange.h"
+#include "document/text_exchange.h"
+#include "gamedata/editor_data.h"
+#include "gamedata/game_dir.h"
+#include "gamedata/safe_save.h"
+#include "gamedata/used_folder.h"
+#include "shell/wait_cursor.h"
+#include "shell/warning_box.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+
+#include <optional>
+
+namespace {
+
+QString textFilter()
+{
+    return MainWindow::tr("Text files (*.txt);;All Files (*)");
+}
+
+} // namespace
+
+void MainWindow::exportTexts()
+{
+    const QString path =
+        QFileDialog::getSaveFileName(this, tr("Save As"), documentName(), textFilter());
+    if (path.isEmpty())
+        return;
+    WaitCursor cursor;
+    const SaveResult result = saveFileSafely(path, {exportedTexts(campaign)});
+    cursor.restore();
+    if (!result.ok)
+        warn(this, tr("Error"), tr("Cannot write file %1:\n%2.").arg(path, result.error));
+}
+
+// Prologues and epilogues read before a fault stay in the campaign, unmarked as they are.
+void MainWindow::importTexts()
+{
+    const QString folder = usedFolder(getGameDir(QStringLiteral("Maps")).path());
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open"), folder, textFilter());
+    if (path.isEmpty())
+        return;
+    rememberFolderOf(path);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        warn(this, tr("Error"), tr("Cannot read file %1:\n%2.").arg(path, file.errorString()));
+        return;
+    }
+    if (!importTextsFrom(file, campaign)) {
+        showCmpTextReadingError(path, file);
+        return;
+    }
+    EditorData::info.modified = true;
+    updateWindowTitle();
+}
+
+void MainWindow::showCmpTextReadingError(const QString &path, QFile &file)
+{
+    warn(this, tr("Error"),
+         tr("Cannot read file %1 - incorrect campaign text:\n%2.").arg(path, file.errorString()));
+}
+
+void MainWindow::exportMaps()
+{
+    const WaitCursor cursor;
+    // Authors know this command as one that says nothing.
+    exportMapsTo(documentFolder(), campaign, [](const QString &) {});
+}
+
+void MainWindow::refreshMaps()
+{
+    std::optional<WaitCursor> cursor(std::in_place);
+    const MapRefresh result = refreshMapsFrom(documentFolder(), campaign, [&](const QString &text) {
+        cursor.reset();
+        warn(this, tr("Error"), text);
+        cursor.emplace();
+    });
+    cursor.reset();
+    if (!result.complete)
+        return;
+    EditorData::info.modified = true;
+    updateWindowTitle();
+}
+
+QString MainWindow::documentFolder() const
+{
+    return currentFile.isEmpty() ? QDir::currentPath() : QFileInfo(currentFile).absolutePath();
+}
