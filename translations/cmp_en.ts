@@ -241,6 +241,10 @@ Ravn_settings.ini must be in Eldmark root folder.</translation>
         <source>Cannot read file %1. Map has errors.</source>
         <translation>Cannot read file %1. Map has errors.</translation>
     </message>
+    <message>
+        <source>Failed to open the sound driver.</source>
+        <translation>Failed to open the sound driver.</translation>
+    </message>
 </context>
 <context>
     <name>MyQGraphicsView</name>

@@ -241,6 +241,10 @@ Ravn_settings.ini must be in Eldmark root folder.</source>
         <source>Cannot read file %1. Map has errors.</source>
         <translation>Не удалось прочитать файл %1. В карте есть ошибки.</translation>
     </message>
+    <message>
+        <source>Failed to open the sound driver.</source>
+        <translation>Не удалось открыть звуковой драйвер.</translation>
+    </message>
 </context>
 <context>
     <name>MyQGraphicsView</name>
