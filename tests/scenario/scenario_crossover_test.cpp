@@ -1,113 +1,21 @@
-// The crossover tab: what its lists offer, what it loads and what it stores.
-#include "scenario/scenario_crossover.h"
-#include "tests/scenario/scenario_fixture.h"
+// The crossover tab: what its lists offer, what it shows, and when it can be edited.
+#include "tests/scenario/crossover_tab.h"
 
-#include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
-
-namespace {
-
-struct Detail
-{
-    const char *name;
-    const char *text;
-    bool byDefault;
-};
-
-// By their bits.
-constexpr std::array<Detail, 5> details{{{"experienceComboBox", "Experience", true},
-                                         {"primarySkillsCombobox", "Primary Skills", true},
-                                         {"secSkillsCombobox", "Secondary Skills", true},
-                                         {"spellsCombobox", "Spells", true},
-                                         {"artifactsCombobox", "Artifacts", false}}};
-
-constexpr const char *creatureList = "creaturesListWidget";
-constexpr const char *artifactList = "crosssoverArtsListWidget";
-
-QBitArray bitsAt(int size, std::initializer_list<int> set)
-{
-    QBitArray bits(size);
-    for (const int bit : set)
-        bits.setBit(bit);
-    return bits;
-}
-
-// The tab by itself, on show.
-class Tab
-{
-public:
-    Tab() : tab(nullptr)
-    {
-        tab.resize(460, 400);
-        tab.show();
-        if (!QTest::qWaitForWindowExposed(&tab))
-            QTest::qFail("The tab never came.", __FILE__, __LINE__);
-    }
-
-    template<typename Widget>
-    Widget *find(const char *name)
-    {
-        auto *widget = tab.findChild<Widget *>(name);
-        if (!widget)
-            qFatal("The tab has no %s.", name);
-        return widget;
-    }
-
-    QListWidgetItem *item(const char *list, int number)
-    {
-        auto *widget = find<QListWidget>(list);
-        for (int row = 0; row < widget->count(); ++row) {
-            if (widget->item(row)->data(Qt::UserRole).toInt() == number)
-                return widget->item(row);
-        }
-        return nullptr;
-    }
-
-    void check(const char *list, int number, bool checked)
-    {
-        item(list, number)->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
-    }
-
-    // The numbers of the checked items, lowest first.
-    QList<int> checked(const char *list)
-    {
-        QList<int> numbers;
-        auto *widget = find<QListWidget>(list);
-        for (int row = 0; row < widget->count(); ++row) {
-            if (widget->item(row)->checkState() == Qt::Checked)
-                numbers << widget->item(row)->data(Qt::UserRole).toInt();
-        }
-        std::sort(numbers.begin(), numbers.end());
-        return numbers;
-    }
-
-    // "1" for each checked detail, bit 0 first.
-    QString kept()
-    {
-        QString text;
-        for (const Detail &detail : details)
-            text += find<QCheckBox>(detail.name)->isChecked() ? '1' : '0';
-        return text;
-    }
-
-    ScenarioCrossover tab;
-};
-
-bool sameBits(const CmpScenarioCrossover &a, const CmpScenarioCrossover &b)
-{
-    return a.heroKeeps == b.heroKeeps && a.artifacts == b.artifacts && a.creatures == b.creatures;
-}
-
-} // namespace
 
 class ScenarioCrossoverTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
+    void initTestCase() { fixture = std::make_unique<ScenarioFixture>(); }
+    void init()
+    {
+        fixture->reset();
+        nameArtifactsAndCreatures();
+        scenario = crossoverScenario();
+    }
 
     void detailsAreCheckBoxes_data();
     void detailsAreCheckBoxes();
@@ -124,48 +32,17 @@ private slots:
     void boundCreaturesAreNotGoodButListed();
     void aScenarioIsShownAsItStands();
     void aScenarioWithoutMapCannotBeEdited();
-    void everyDetailHasItsBit_data();
-    void everyDetailHasItsBit();
-    void everyItemHasItsBit_data();
-    void everyItemHasItsBit();
-    void whatNoListShowsStays();
-    void savingTwiceChangesNothingTheSecondTime();
     void buttonsCheckTheirList_data();
     void buttonsCheckTheirList();
     void detailAndListOfArtifactsAreIndependent();
-    void shortArraysReadAsClear();
-    void shortArraysGrowForWhatIsChecked();
-    void longArraysKeepTheirEnd();
-    void numbersBelowZeroAreNeverStored();
     void disablingTakesTheListsChecksOff();
     void enablingLeavesAllChecks();
-    void savingWithoutMapClearsTheLists();
-    void anotherPlaceInMemoryIsUsedFromThenOn();
     void clicksOnItemsCount();
 
 private:
     std::unique_ptr<ScenarioFixture> fixture;
     ScenarioData scenario;
 };
-
-void ScenarioCrossoverTest::initTestCase()
-{
-    fixture = std::make_unique<ScenarioFixture>();
-}
-
-void ScenarioCrossoverTest::init()
-{
-    fixture->reset();
-    EditorData::artifacts = {{0, "Tome"},   {1, "Scroll"},     {2, "Yew Bow"}, {3, "Wagon"},
-                             {4, "Anklet"}, {7, "Moss Cloak"}, {9, "Censer"},  {159, "Lute"}};
-    EditorData::creatures = {{0, "Reed Guard"}, {3, "Ferryman"}, {8, "Heron"},
-                             {122, "Wisp"},     {149, "Shade"},  {185, "Stilt"}};
-    EditorData::creature_ordering = {8, 0, 149, 3, 122, 185};
-    scenario = scenarioWithMap("ford.e3m", "Ford");
-    scenario.crossover.heroKeeps = bitsAt(5, {1, 4});
-    scenario.crossover.artifacts = bitsAt(160, {0, 3, 7, 12, 159});
-    scenario.crossover.creatures = bitsAt(186, {3, 5, 149});
-}
 
 void ScenarioCrossoverTest::detailsAreCheckBoxes_data()
 {
@@ -177,7 +54,7 @@ void ScenarioCrossoverTest::detailsAreCheckBoxes_data()
 
 void ScenarioCrossoverTest::detailsAreCheckBoxes()
 {
-    Tab open;
+    CrossoverTab open;
     auto *box = open.find<QCheckBox>(QTest::currentDataTag());
     QTEST(box->text(), "text");
     QTEST(box->isChecked(), "byDefault");
@@ -208,7 +85,7 @@ void ScenarioCrossoverTest::controlsHaveTypesAndTexts()
 {
     QFETCH(QByteArray, type);
     QFETCH(QByteArray, property);
-    Tab open;
+    CrossoverTab open;
     auto *widget = open.find<QWidget>(QTest::currentDataTag());
     QVERIFY(widget->inherits(type));
     QVERIFY(widget->isVisible());
@@ -226,7 +103,7 @@ void ScenarioCrossoverTest::listsScrollSideways_data()
 void ScenarioCrossoverTest::listsScrollSideways()
 {
     QFETCH(int, type);
-    Tab open;
+    CrossoverTab open;
     auto *list = open.find<QListWidget>(QTest::currentDataTag());
     QVERIFY(list->isWrapping());
     QCOMPARE(list->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
@@ -245,7 +122,7 @@ void ScenarioCrossoverTest::listsScrollSideways()
 
 void ScenarioCrossoverTest::artifactsStandInAlphabeticalOrder()
 {
-    Tab open;
+    CrossoverTab open;
     auto *list = open.find<QListWidget>(artifactList);
     QVERIFY(list->isSortingEnabled());
     QStringList names;
@@ -261,7 +138,7 @@ void ScenarioCrossoverTest::artifactsOfOneNameAreToldApart()
 {
     EditorData::artifacts = {{10, "Bell"}, {11, "Bell"}, {12, "Bell"}, {13, "Bell"}, {14, "Axe"}};
     scenario.crossover.artifacts = bitsAt(160, {11, 13});
-    Tab open;
+    CrossoverTab open;
     open.tab.initInfo(&scenario);
     QCOMPARE(open.checked(artifactList), QList<int>({11, 13}));
     QVERIFY(!open.tab.saveScenarioInfo());
@@ -274,7 +151,7 @@ void ScenarioCrossoverTest::artifactsOfOneNameAreToldApart()
 void ScenarioCrossoverTest::creaturesStandInTheGamesOrder()
 {
     EditorData::creature_ordering.push_back(77); // has no name
-    Tab open;
+    CrossoverTab open;
     auto *list = open.find<QListWidget>(creatureList);
     QVERIFY(!list->isSortingEnabled());
     QStringList names;
@@ -298,7 +175,7 @@ void ScenarioCrossoverTest::boundArtifactsAreNotGood_data()
 void ScenarioCrossoverTest::boundArtifactsAreNotGood()
 {
     QFETCH(unsigned int, artifact);
-    Tab open;
+    CrossoverTab open;
     QTEST(open.tab.artIsGoodForCrossoverList(artifact), "good");
 }
 
@@ -316,14 +193,14 @@ void ScenarioCrossoverTest::boundCreaturesAreNotGoodButListed()
 {
     QFETCH(unsigned int, creature);
     EditorData::creature_ordering = {creature};
-    Tab open;
+    CrossoverTab open;
     QTEST(open.tab.monsterIsGoodForCrossoverList(creature), "good");
     QVERIFY(open.item(creatureList, int(creature)));
 }
 
 void ScenarioCrossoverTest::aScenarioIsShownAsItStands()
 {
-    Tab open;
+    CrossoverTab open;
     open.tab.initInfo(&scenario);
     QCOMPARE(open.kept(), QString("01001"));
     QCOMPARE(open.checked(creatureList), QList<int>({3, 149}));
@@ -339,7 +216,7 @@ void ScenarioCrossoverTest::aScenarioIsShownAsItStands()
 
 void ScenarioCrossoverTest::aScenarioWithoutMapCannotBeEdited()
 {
-    Tab open;
+    CrossoverTab open;
     open.tab.initInfo(&scenario);
     ScenarioData empty = scenario;
     empty.mapHeader.reset();
@@ -364,89 +241,6 @@ void ScenarioCrossoverTest::aScenarioWithoutMapCannotBeEdited()
         QVERIFY(open.find<QWidget>(detail.name)->isEnabled());
 }
 
-void ScenarioCrossoverTest::everyDetailHasItsBit_data()
-{
-    QTest::addColumn<int>("bit");
-    for (int bit = 0; bit < 5; ++bit)
-        QTest::newRow(details[std::size_t(bit)].name) << bit;
-}
-
-void ScenarioCrossoverTest::everyDetailHasItsBit()
-{
-    QFETCH(int, bit);
-    for (const bool before : {false, true}) {
-        scenario.crossover.heroKeeps = QBitArray(5, before);
-        Tab open;
-        open.tab.initInfo(&scenario);
-        clickOn(open.find<QWidget>(QTest::currentDataTag()), QPoint(5, 8));
-        QCOMPARE(scenario.crossover.heroKeeps, QBitArray(5, before));
-        QVERIFY(open.tab.saveScenarioInfo());
-        QBitArray expected(5, before);
-        expected.setBit(bit, !before);
-        QCOMPARE(scenario.crossover.heroKeeps, expected);
-    }
-}
-
-void ScenarioCrossoverTest::everyItemHasItsBit_data()
-{
-    QTest::addColumn<QByteArray>("list");
-    QTest::addColumn<int>("number");
-    QTest::addColumn<bool>("before");
-    for (const int number : {0, 3, 8, 122, 149, 185})
-        QTest::addRow("creature %d", number)
-            << QByteArray(creatureList) << number << (number == 3 || number == 149);
-    for (const int number : {2, 4, 7, 9, 159})
-        QTest::addRow("artifact %d", number)
-            << QByteArray(artifactList) << number << (number == 7 || number == 159);
-}
-
-void ScenarioCrossoverTest::everyItemHasItsBit()
-{
-    QFETCH(QByteArray, list);
-    QFETCH(int, number);
-    QFETCH(bool, before);
-    Tab open;
-    open.tab.initInfo(&scenario);
-    CmpScenarioCrossover expected = scenario.crossover;
-    (list == artifactList ? expected.artifacts : expected.creatures).setBit(number, !before);
-    open.check(list, number, !before);
-    QVERIFY(open.tab.saveScenarioInfo());
-    QVERIFY(sameBits(scenario.crossover, expected));
-    open.check(list, number, before);
-    QVERIFY(open.tab.saveScenarioInfo());
-}
-
-void ScenarioCrossoverTest::whatNoListShowsStays()
-{
-    Tab open;
-    open.tab.initInfo(&scenario);
-    open.tab.initInfo(&scenario);
-    clickOn(open.find<QWidget>("noneButtonArts"));
-    clickOn(open.find<QWidget>("noneButton"));
-    QVERIFY(open.tab.saveScenarioInfo());
-    QCOMPARE(scenario.crossover.artifacts, bitsAt(160, {0, 3, 12}));
-    QCOMPARE(scenario.crossover.creatures, bitsAt(186, {5}));
-    clickOn(open.find<QWidget>("allButtonArts"));
-    clickOn(open.find<QWidget>("allButton"));
-    QVERIFY(open.tab.saveScenarioInfo());
-    QCOMPARE(scenario.crossover.artifacts, bitsAt(160, {0, 2, 3, 4, 7, 9, 12, 159}));
-    QCOMPARE(scenario.crossover.creatures, bitsAt(186, {0, 3, 5, 8, 122, 149, 185}));
-}
-
-void ScenarioCrossoverTest::savingTwiceChangesNothingTheSecondTime()
-{
-    Tab open;
-    open.tab.initInfo(&scenario);
-    QVERIFY(!open.tab.saveScenarioInfo());
-    open.check(artifactList, 4, true);
-    open.check(creatureList, 3, false);
-    open.find<QCheckBox>("spellsCombobox")->setChecked(true);
-    QVERIFY(open.tab.saveScenarioInfo());
-    const CmpScenarioCrossover stored = scenario.crossover;
-    QVERIFY(!open.tab.saveScenarioInfo());
-    QVERIFY(sameBits(scenario.crossover, stored));
-}
-
 void ScenarioCrossoverTest::buttonsCheckTheirList_data()
 {
     QTest::addColumn<QList<int>>("creatures");
@@ -461,7 +255,7 @@ void ScenarioCrossoverTest::buttonsCheckTheirList_data()
 
 void ScenarioCrossoverTest::buttonsCheckTheirList()
 {
-    Tab open;
+    CrossoverTab open;
     open.tab.initInfo(&scenario);
     clickOn(open.find<QWidget>(QTest::currentDataTag()));
     QTEST(open.checked(creatureList), "creatures");
@@ -471,7 +265,7 @@ void ScenarioCrossoverTest::buttonsCheckTheirList()
 
 void ScenarioCrossoverTest::detailAndListOfArtifactsAreIndependent()
 {
-    Tab open;
+    CrossoverTab open;
     open.tab.initInfo(&scenario);
     auto *box = open.find<QCheckBox>("artifactsCombobox");
     for (const bool checked : {false, true}) {
@@ -487,71 +281,9 @@ void ScenarioCrossoverTest::detailAndListOfArtifactsAreIndependent()
     }
 }
 
-void ScenarioCrossoverTest::shortArraysReadAsClear()
-{
-    scenario.crossover.heroKeeps = QBitArray(2, true);
-    scenario.crossover.artifacts = bitsAt(8, {7});
-    scenario.crossover.creatures = QBitArray();
-    Tab open;
-    open.tab.initInfo(&scenario);
-    QCOMPARE(open.kept(), QString("11000"));
-    QCOMPARE(open.checked(artifactList), QList<int>({7}));
-    QCOMPARE(open.checked(creatureList), QList<int>());
-    QVERIFY(!open.tab.saveScenarioInfo());
-    QCOMPARE(scenario.crossover.heroKeeps.size(), 2);
-    QCOMPARE(scenario.crossover.artifacts.size(), 8);
-    QCOMPARE(scenario.crossover.creatures.size(), 0);
-}
-
-void ScenarioCrossoverTest::shortArraysGrowForWhatIsChecked()
-{
-    scenario.crossover.heroKeeps = QBitArray(2, true);
-    scenario.crossover.artifacts = bitsAt(8, {7});
-    scenario.crossover.creatures = QBitArray();
-    Tab open;
-    open.tab.initInfo(&scenario);
-    open.find<QCheckBox>("artifactsCombobox")->setChecked(true);
-    open.check(artifactList, 159, true);
-    open.check(creatureList, 122, true);
-    QVERIFY(open.tab.saveScenarioInfo());
-    QCOMPARE(scenario.crossover.heroKeeps, bitsAt(5, {0, 1, 4}));
-    QCOMPARE(scenario.crossover.artifacts, bitsAt(160, {7, 159}));
-    QCOMPARE(scenario.crossover.creatures, bitsAt(123, {122}));
-    QVERIFY(!open.tab.saveScenarioInfo());
-}
-
-void ScenarioCrossoverTest::longArraysKeepTheirEnd()
-{
-    scenario.crossover.heroKeeps = bitsAt(8, {0, 7});
-    scenario.crossover.artifacts = bitsAt(300, {299});
-    scenario.crossover.creatures = bitsAt(300, {298});
-    Tab open;
-    open.tab.initInfo(&scenario);
-    open.find<QCheckBox>("experienceComboBox")->setChecked(false);
-    clickOn(open.find<QWidget>("allButtonArts"));
-    clickOn(open.find<QWidget>("allButton"));
-    QVERIFY(open.tab.saveScenarioInfo());
-    QCOMPARE(scenario.crossover.heroKeeps, bitsAt(8, {7}));
-    QCOMPARE(scenario.crossover.artifacts, bitsAt(300, {2, 4, 7, 9, 159, 299}));
-    QCOMPARE(scenario.crossover.creatures, bitsAt(300, {0, 3, 8, 122, 149, 185, 298}));
-}
-
-void ScenarioCrossoverTest::numbersBelowZeroAreNeverStored()
-{
-    EditorData::artifacts[-1] = "Nothing";
-    EditorData::creature_ordering.push_back(unsigned(-1));
-    Tab open;
-    open.tab.initInfo(&scenario);
-    const CmpScenarioCrossover before = scenario.crossover;
-    open.check(artifactList, -1, true);
-    open.find<QListWidget>(creatureList)->item(6)->setCheckState(Qt::Checked);
-    QVERIFY(!open.tab.saveScenarioInfo());
-    QVERIFY(sameBits(scenario.crossover, before));
-}
-
 void ScenarioCrossoverTest::disablingTakesTheListsChecksOff()
 {
-    Tab open;
+    CrossoverTab open;
     open.tab.initInfo(&scenario);
     open.tab.disableUI();
     QCOMPARE(open.kept(), QString("01001"));
@@ -563,7 +295,7 @@ void ScenarioCrossoverTest::disablingTakesTheListsChecksOff()
 
 void ScenarioCrossoverTest::enablingLeavesAllChecks()
 {
-    Tab open;
+    CrossoverTab open;
     open.tab.initInfo(&scenario);
     open.tab.enableUI();
     QCOMPARE(open.kept(), QString("01001"));
@@ -575,37 +307,9 @@ void ScenarioCrossoverTest::enablingLeavesAllChecks()
     QCOMPARE(open.checked(creatureList), QList<int>());
 }
 
-void ScenarioCrossoverTest::savingWithoutMapClearsTheLists()
-{
-    scenario.mapHeader.reset();
-    Tab open;
-    open.tab.initInfo(&scenario);
-    QVERIFY(open.tab.saveScenarioInfo());
-    QCOMPARE(scenario.crossover.heroKeeps, bitsAt(5, {0, 1, 2, 3}));
-    QCOMPARE(scenario.crossover.artifacts, bitsAt(160, {0, 3, 12}));
-    QCOMPARE(scenario.crossover.creatures, bitsAt(186, {5}));
-    QVERIFY(!open.tab.saveScenarioInfo());
-    ScenarioData fresh;
-    open.tab.initInfo(&fresh);
-    QVERIFY(!open.tab.saveScenarioInfo());
-}
-
-void ScenarioCrossoverTest::anotherPlaceInMemoryIsUsedFromThenOn()
-{
-    Tab open;
-    open.tab.initInfo(&scenario);
-    open.check(artifactList, 4, true);
-    ScenarioData moved = scenario;
-    open.tab.updateScenarioData(&moved);
-    QCOMPARE(open.checked(artifactList), QList<int>({4, 7, 159}));
-    QVERIFY(open.tab.saveScenarioInfo());
-    QVERIFY(moved.crossover.artifacts.testBit(4));
-    QVERIFY(!scenario.crossover.artifacts.testBit(4));
-}
-
 void ScenarioCrossoverTest::clicksOnItemsCount()
 {
-    Tab open;
+    CrossoverTab open;
     open.tab.initInfo(&scenario);
     for (const char *name : {creatureList, artifactList}) {
         auto *list = open.find<QListWidget>(name);
