@@ -162,7 +162,7 @@ void ScenarioStartOptions::refreshButtonStates()
     Q_UNUSED(bonus)
     bool allowHero = mapOffersHero();
     const bool allowCrossover = scenario->mapHeader && scenario->prerequisites.count(true) > 0;
-    if (allowHero)
+    if (allowHero) // the rule by which the editor will add one has the last word
         allowHero = somebodyCanTakeHero();
     allow(hero, allowHero);
     if (allowHero)

@@ -242,18 +242,16 @@ void ScenarioStartOptionsRulesTest::rowsThatTheFirstWalkStepsOverGoInTheSecond()
     for (const int type : {int(CrossoverKind), int(HeroKind)}) {
         StartOptionsTab open;
         if (type == HeroKind)
-            offerHeroes(open.scenario(), {{0, 1}, {1, 3}, {1, 0}});
+            offerHeroes(open.scenario(), {{1, 3}, {1, 0}, {0, 1}});
         else
-            offerCrossovers(open.scenario(), {{0, 0}, {0, 2}, {1, 1}});
+            offerCrossovers(open.scenario(), {{1, 0}, {1, 2}, {0, 1}});
         open.load();
         QCOMPARE(open.rowCounts()[type - 1], 3);
         MapHeader other = heroMap();
-        other.players[0].canHuman = 0;
-        other.players[1].canHuman = type == HeroKind;
-        other.players[2].canHuman = 1;
+        other.players[1].canHuman = 0;
         giveMap(open.scenario(), other);
         open.tab.updateScenarioUI();
-        QCOMPARE(open.rowCounts()[type - 1], type == HeroKind ? 2 : 0);
+        QCOMPARE(open.rowCounts()[type - 1], 1);
     }
 }
 
