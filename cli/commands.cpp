@@ -2,6 +2,7 @@
 
 #include "cli/archive_commands.h"
 #include "cli/campaign_commands.h"
+#include "cli/exchange_commands.h"
 #include "cli/picture_commands.h"
 #include "cli/table_commands.h"
 
@@ -10,9 +11,14 @@
 
 namespace {
 
-constexpr std::array<Command, 7> commands{{
+constexpr std::array<Command, 11> commands{{
     {"dump", "FILE", "prints the whole campaign as JSON", runDump},
     {"resave", "FILE OUT", "reads a campaign and writes it in the newest format", runResave},
+    {"export-texts", "FILE OUT", "writes a campaign's texts as lines, for translators",
+     runExportTexts},
+    {"import-texts", "FILE TEXTS OUT", "writes a campaign with translated texts", runImportTexts},
+    {"export-maps", "FILE DIR", "writes every scenario's map into a folder", runExportMaps},
+    {"refresh-maps", "FILE DIR OUT", "writes a campaign with the maps of a folder", runRefreshMaps},
     {"render", "FILE OUT.png", "draws the campaign map as the editor shows it", runRender},
     {"tables", "", "prints every table of the game's data as JSON", runTables},
     {"list", "", "lists the archives' files: name, archive and size, parted by tabs", runList},

@@ -52,6 +52,10 @@ void CliUsageTest::wrongWordsEndWithStatusOne_data()
     row("dump", "Usage: cmped-cli [options] dump FILE");
     row("dump a b", "Usage: cmped-cli [options] dump FILE");
     row("resave a", "Usage: cmped-cli [options] resave FILE OUT");
+    row("export-texts a", "Usage: cmped-cli [options] export-texts FILE OUT");
+    row("import-texts a b", "Usage: cmped-cli [options] import-texts FILE TEXTS OUT");
+    row("export-maps a", "Usage: cmped-cli [options] export-maps FILE DIR");
+    row("refresh-maps a b", "Usage: cmped-cli [options] refresh-maps FILE DIR OUT");
     row("render a", "Usage: cmped-cli [options] render FILE OUT.png");
     row("tables a", "Usage: cmped-cli [options] tables");
     row("list a", "Usage: cmped-cli [options] list");
@@ -89,7 +93,9 @@ void CliUsageTest::helpNamesEveryCommand()
     QCOMPARE(result.error, QByteArray());
     for (const char *line :
          {"Usage: cmped-cli [options] COMMAND", "\n  dump FILE ", "\n  resave FILE OUT ",
-          "\n  render FILE OUT.png ", "\n  tables ", "\n  list ", "\n  extract NAME OUT ",
+          "\n  export-texts FILE OUT ", "\n  import-texts FILE TEXTS OUT ",
+          "\n  export-maps FILE DIR ", "\n  refresh-maps FILE DIR OUT ", "\n  render FILE OUT.png ",
+          "\n  tables ", "\n  list ", "\n  extract NAME OUT ",
           "\n  region MAP REGION STATE COLOUR OUT.png ", "\n  --game DIR ", "\n  --encoding NAME ",
           "\n  --help ", "\n  --version "})
         QVERIFY2(result.output.contains(line), line);
