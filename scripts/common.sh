@@ -35,7 +35,7 @@ install_what_is_missing() {
         command -v cmake >/dev/null && command -v ninja >/dev/null && return 0
         die "This system has no apt-get. Please install by hand: a C++17 compiler, CMake 3.25, Ninja,
 Qt 5.15 (Core, Gui, Widgets, Svg, Test, Linguist tools and its translations), zlib, SDL2_mixer,
-libmp3lame; for a start without a display also Xvfb, openbox, xdotool and ImageMagick.
+libmp3lame, libvorbis, pkg-config; for a start without a display also Xvfb, openbox, xdotool and ImageMagick.
 Under Debian these are the packages: $(wanted_packages | tr '\n' ' ')"
     fi
     local missing

@@ -10,6 +10,7 @@
 #include "shell/exit_signals.h"
 #include "shell/main_window.h"
 #include "shell/message_reporter.h"
+#include "shell/mss_info.h"
 #include "shell/startup.h"
 
 #include <QApplication>
@@ -19,7 +20,9 @@
 
 #include <array>
 #include <csignal>
+#include <future>
 #include <memory>
+#include <type_traits>
 
 namespace {
 
@@ -32,6 +35,7 @@ struct Session
     std::unique_ptr<QPixmap> splashPicture;
     std::unique_ptr<QSplashScreen> splash;
     std::unique_ptr<MainWindow> window;
+    std::future<void *> soundLibrary;
 };
 
 // Let a write past the limit on file sizes fail, which a message tells, instead of killing the
@@ -54,6 +58,12 @@ void createApplication(Session &session)
     session.application = std::make_unique<QApplication>(session.argc, session.argv);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/cmped.ico")));
     reportWithMessageBoxes();
+}
+
+// Loading it takes a third as long as all the rest of the start, so it goes on beside that.
+void loadSoundLibraryAhead(Session &session)
+{
+    session.soundLibrary = std::async(std::launch::async, loadSoundLibrary);
 }
 
 void setFont(Session &session)
@@ -109,6 +119,13 @@ void createWindow(Session &session)
     session.window = std::make_unique<MainWindow>(nullptr);
 }
 
+void startSound(Session &session)
+{
+    session.soundLibrary.wait();
+    mss = new MssInfo;
+    mss->LoadDll();
+}
+
 void openNamedFile(Session &session)
 {
     session.window->processInfo(session.application.get());
@@ -143,6 +160,14 @@ void freeTableFile(Session &)
     RADF = nullptr;
 }
 
+// The library and its thread play on until the process ends, whatever becomes of the object.
+void freeSound(Session &)
+{
+    static_assert(std::is_trivially_destructible_v<MssInfo>);
+    delete mss;
+    mss = nullptr;
+}
+
 void destroyWindows(Session &session)
 {
     session.window.reset();
@@ -152,11 +177,12 @@ void destroyWindows(Session &session)
     session.application.reset();
 }
 
-constexpr std::array<void (*)(Session &), 19> stages{{
-    setAttributes,    createApplication, setFont,       leaveSystemFolder, stopComboAnimation,
-    createImageCache, loadSettings,      loadTableFile, loadLanguage,      loadSplashPicture,
-    showSplash,       createWindow,      openNamedFile, showWindow,        preloadPattern,
-    runEventLoop,     writeSettings,     freeTableFile, destroyWindows,
+constexpr std::array<void (*)(Session &), 22> stages{{
+    setAttributes,      createApplication, loadSoundLibraryAhead, setFont,       leaveSystemFolder,
+    stopComboAnimation, createImageCache,  loadSettings,          loadTableFile, loadLanguage,
+    loadSplashPicture,  showSplash,        createWindow,          startSound,    openNamedFile,
+    showWindow,         preloadPattern,    runEventLoop,          writeSettings, freeTableFile,
+    freeSound,          destroyWindows,
 }};
 
 } // namespace
@@ -165,7 +191,7 @@ constexpr std::array<void (*)(Session &), 19> stages{{
 // Answers 0 whenever it answers. A missing game file ends the process instead.
 extern "C" Q_DECL_EXPORT int run(int argc, char **argv)
 {
-    Session session{argc, argv, {}, {}, {}, {}, {}};
+    Session session{argc, argv, {}, {}, {}, {}, {}, {}};
     for (const auto stage : stages)
         stage(session);
     return 0;
