@@ -5,6 +5,7 @@
 #include "gamedata/image_cache.h"
 #include "gamedata/ini_file.h"
 #include "gamedata/runtime/dat_file.h"
+#include "shell/mss_info.h"
 #include "tests/support/file_contents.h"
 #include "tests/support/tiny_game.h"
 
@@ -29,6 +30,7 @@ struct Sight
     QImage pattern;
     bool asked = false;
     QByteArray settings;
+    bool soundIsReady = false;
 };
 
 Sight sight;
@@ -53,6 +55,7 @@ void lookAndLeave(QMainWindow *window)
     ini->SetStringVal("Campaign Editor", "Path", "/somewhere");
     EditorData::info.modified = true;
     sight.settings = contents(settingsFile);
+    sight.soundIsReady = mss && mss->initialized && mss->driver != 0 && mss->stream == 0;
     window->findChild<QAction *>("actionExit")->trigger();
     sight.asked = QApplication::activeModalWidget() != nullptr;
 }
@@ -90,6 +93,7 @@ private slots:
     void exitAsksNothingAboutChanges();
     void settingsAreWrittenBehindTheLoopAlone();
     void tableFileIsFreedAtTheEnd();
+    void soundIsReadyInTheLoopAndFreedAtTheEnd();
     void settingsAndPicturesAreNotFreed();
     void applicationIsGone();
 
@@ -131,6 +135,12 @@ void RunStagesTest::tableFileIsFreedAtTheEnd()
 {
     QVERIFY(sight.hasTableFile);
     QVERIFY(!RADF);
+}
+
+void RunStagesTest::soundIsReadyInTheLoopAndFreedAtTheEnd()
+{
+    QVERIFY(sight.soundIsReady);
+    QVERIFY(!mss);
 }
 
 void RunStagesTest::settingsAndPicturesAreNotFreed()

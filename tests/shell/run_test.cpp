@@ -43,16 +43,21 @@ private slots:
     void namedFileIsOpenedBeforeTheWindowShows();
     void fileThatCantBeReadIsToldBeforeTheWindowShows();
     void missingTranslationShowsTheSourceTexts();
+    void soundDriverThatFailsIsToldBeforeTheWindowShows_data();
+    void soundDriverThatFailsIsToldBeforeTheWindowShows();
+    void missingSoundLibraryEndsTheProcessWithoutAWord();
 
 private:
     ChildResult start(const tiny::Game &game, const QStringList &arguments = {},
-                      const QString &end = "exit");
+                      const QString &end = "exit", const QStringList &variable = {});
     static QStringList columns(const ChildResult &result, const QByteArray &kind);
 
     QTemporaryDir m_settings;
 };
 
-ChildResult RunTest::start(const tiny::Game &game, const QStringList &arguments, const QString &end)
+// `variable` is a name and a value for the program's environment.
+ChildResult RunTest::start(const tiny::Game &game, const QStringList &arguments, const QString &end,
+                           const QStringList &variable)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("CMPED_GAME_DIR", game.path());
@@ -60,6 +65,8 @@ ChildResult RunTest::start(const tiny::Game &game, const QStringList &arguments,
     environment.insert("XDG_RUNTIME_DIR", m_settings.path());
     environment.insert("QT_QPA_PLATFORM", "offscreen");
     environment.insert("RUN_PROBE_END", end);
+    if (!variable.isEmpty())
+        environment.insert(variable[0], variable[1]);
     return runChild(builtProgram("run_probe"), arguments, environment);
 }
 
@@ -294,6 +301,46 @@ void RunTest::missingTranslationShowsTheSourceTexts()
     const ChildResult result = start(game);
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(columns(result, "window").value(1), QString("File"));
+}
+
+void RunTest::soundDriverThatFailsIsToldBeforeTheWindowShows_data()
+{
+    QTest::addColumn<QByteArray>("language");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("splash");
+    QTest::newRow("English") << QByteArray("0") << "Error"
+                             << "Failed to open the sound driver."
+                             << "en visible";
+    QTest::newRow("Russian") << QByteArray("1") << QString::fromUtf8("Ошибка")
+                             << QString::fromUtf8("Не удалось открыть звуковой драйвер.")
+                             << "ru visible";
+}
+
+void RunTest::soundDriverThatFailsIsToldBeforeTheWindowShows()
+{
+    QFETCH(QByteArray, language);
+    QFETCH(QString, title);
+    QFETCH(QString, text);
+    QFETCH(QString, splash);
+    const tiny::Game game("Language=" + language + "\r\n");
+    QVERIFY(QFile::copy(builtProgram("Ravn_Data/cmp_ru.qm"), game.filePath("Ravn_Data/cmp_ru.qm")));
+    const ChildResult result = start(game, {}, "exit", {"SDL_AUDIODRIVER", "nosuch"});
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(columns(result, "box"), QStringList({title, text, "3", "1024", "0", splash}));
+    QCOMPARE(result.output.count("box|"), 1);
+    QCOMPARE(columns(result, "window").value(0), untitled);
+}
+
+// A file in the library's place that is no library is as good as none.
+void RunTest::missingSoundLibraryEndsTheProcessWithoutAWord()
+{
+    const tiny::Game game;
+    game.write("libSDL2_mixer-2.0.so.0", QByteArray(1000, 'x'));
+    const ChildResult result = start(game, {}, "exit", {"LD_LIBRARY_PATH", game.path()});
+    QVERIFY(result.exitedNormally);
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY(result.output.isEmpty());
 }
 
 QTEST_GUILESS_MAIN(RunTest)
