@@ -70,6 +70,16 @@ void ScenarioInfo::createTabs()
     ui->tabWidget->addTab(crossover, tr("Crossover Options"));
     ui->tabWidget->addTab(startOptions, tr("Starting Options"));
     ui->tabWidget->setCurrentWidget(general);
+    putButtonsLast();
+}
+
+// The Tab key goes in the order in which controls come into the window, which would leave the pages
+// behind the buttons below them. So the buttons come in once more.
+void ScenarioInfo::putButtonsLast()
+{
+    ui->verticalLayout->removeWidget(ui->buttonBox);
+    ui->buttonBox->setParent(nullptr);
+    ui->verticalLayout->addWidget(ui->buttonBox);
 }
 
 unsigned int ScenarioInfo::getCurrentRegion()

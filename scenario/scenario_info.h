@@ -76,6 +76,7 @@ private:
     void initSlotsAndSignals();
     void fillList();
     void createTabs();
+    void putButtonsLast();
     void loadCurrentScenario();
     void resetItemTexts(int firstRow);
     void moveCurrentTo(int row);
