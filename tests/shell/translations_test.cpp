@@ -108,7 +108,8 @@ void TranslationsTest::messagesOfTheLowerRoomsAreTranslated_data()
           "Campaign Editor cannot be launched because Ravn.dat was not found. \nRavn.dat must be "
           "in Eldmark root folder.",
           "Eldmark Campaign Editor cannot be launched because Ravn_settings.ini was not found. "
-          "\nRavn_settings.ini must be in Eldmark root folder."})
+          "\nRavn_settings.ini must be in Eldmark root folder.",
+          "Failed to open the sound driver."})
         QTest::newRow(text) << "MainWindow" << text;
     for (const char *text : {"Incorrect or damaged file.", "Basic", "Advanced", "Expert"})
         QTest::newRow(text) << "QObject" << text;
