@@ -24,6 +24,104 @@
     </message>
 </context>
 <context>
+    <name>ConvertCampaign</name>
+    <message>
+        <source>Convert Campaign</source>
+        <translation>Convert Campaign</translation>
+    </message>
+    <message>
+        <source>Convert to...</source>
+        <translation>Convert to...</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Background</translation>
+    </message>
+    <message>
+        <source>Scenario count:</source>
+        <translation>Scenario count:</translation>
+    </message>
+    <message>
+        <source>Region count:</source>
+        <translation>Region count:</translation>
+    </message>
+    <message>
+        <source>Some scenarios will be deleted!</source>
+        <translation>Some scenarios will be deleted!</translation>
+    </message>
+    <message>
+        <source>Convert to campaign without map</source>
+        <translation>Convert to campaign without map</translation>
+    </message>
+    <message>
+        <source>Convert to campaign with map</source>
+        <translation>Convert to campaign with map</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Map</translation>
+    </message>
+    <message>
+        <source>Save changes</source>
+        <translation>Save changes</translation>
+    </message>
+    <message>
+        <source>Do you really want to convert the campaign to different type? Some scenarios will be deleted!</source>
+        <translation>Do you really want to convert the campaign to different type? Some scenarios will be deleted!</translation>
+    </message>
+    <message>
+        <source>Do you really want to convert the campaign to different type?</source>
+        <translation>Do you really want to convert the campaign to different type?</translation>
+    </message>
+</context>
+<context>
+    <name>EditCampaign</name>
+    <message>
+        <source>Campaign Properties</source>
+        <translation>Campaign Properties</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Scenario &amp;difficulty is user selectable</source>
+        <translation>Scenario &amp;difficulty is user selectable</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Music</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Background</translation>
+    </message>
+    <message>
+        <source>Map:</source>
+        <translation>Map:</translation>
+    </message>
+    <message>
+        <source>Map name</source>
+        <translation>Map name</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Map</translation>
+    </message>
+    <message>
+        <source>Save changes</source>
+        <translation>Save changes</translation>
+    </message>
+    <message>
+        <source>Do you really want to change the background?</source>
+        <translation>Do you really want to change the background?</translation>
+    </message>
+</context>
+<context>
     <name>HeroCrossover</name>
     <message>
         <source>Source scenario</source>

@@ -24,6 +24,104 @@
     </message>
 </context>
 <context>
+    <name>ConvertCampaign</name>
+    <message>
+        <source>Convert Campaign</source>
+        <translation>Преобразование кампании</translation>
+    </message>
+    <message>
+        <source>Convert to...</source>
+        <translation>Преобразовать в...</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Фон</translation>
+    </message>
+    <message>
+        <source>Scenario count:</source>
+        <translation>Число сценариев:</translation>
+    </message>
+    <message>
+        <source>Region count:</source>
+        <translation>Число регионов:</translation>
+    </message>
+    <message>
+        <source>Some scenarios will be deleted!</source>
+        <translation>Некоторые сценарии будут удалены!</translation>
+    </message>
+    <message>
+        <source>Convert to campaign without map</source>
+        <translation>Преобразовать в кампанию без карты</translation>
+    </message>
+    <message>
+        <source>Convert to campaign with map</source>
+        <translation>Преобразовать в кампанию с картой</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Карта</translation>
+    </message>
+    <message>
+        <source>Save changes</source>
+        <translation>Сохранение изменений</translation>
+    </message>
+    <message>
+        <source>Do you really want to convert the campaign to different type? Some scenarios will be deleted!</source>
+        <translation>Действительно преобразовать кампанию в другой тип? Некоторые сценарии будут удалены!</translation>
+    </message>
+    <message>
+        <source>Do you really want to convert the campaign to different type?</source>
+        <translation>Действительно преобразовать кампанию в другой тип?</translation>
+    </message>
+</context>
+<context>
+    <name>EditCampaign</name>
+    <message>
+        <source>Campaign Properties</source>
+        <translation>Свойства кампании</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Название:</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Описание</translation>
+    </message>
+    <message>
+        <source>Scenario &amp;difficulty is user selectable</source>
+        <translation>Игрок может выбирать &amp;сложность сценария</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Музыка</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Фон</translation>
+    </message>
+    <message>
+        <source>Map:</source>
+        <translation>Карта:</translation>
+    </message>
+    <message>
+        <source>Map name</source>
+        <translation>Название карты</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Карта</translation>
+    </message>
+    <message>
+        <source>Save changes</source>
+        <translation>Сохранение изменений</translation>
+    </message>
+    <message>
+        <source>Do you really want to change the background?</source>
+        <translation>Действительно сменить фон?</translation>
+    </message>
+</context>
+<context>
     <name>HeroCrossover</name>
     <message>
         <source>Source scenario</source>
