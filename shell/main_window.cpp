@@ -49,12 +49,6 @@ constexpr std::array<ToolTipRow, 12> toolTipRows{{
     {5, &Ui_MainWindow::actionAbout},
 }};
 
-// Commands whose dialogs the editor doesn't have yet.
-constexpr std::array<QAction * Ui_MainWindow::*, 2> unavailableActions{{
-    &Ui_MainWindow::campaignProperties,
-    &Ui_MainWindow::actionConvertCmp,
-}};
-
 QLabel *statusLine(int widestRequest)
 {
     auto *line = new ElidedLabel;
@@ -108,8 +102,6 @@ void MainWindow::initActions()
         ui->menuFile->insertAction(ui->actionExit, action);
     }
     ui->menuFile->insertSeparator(ui->actionExit);
-    for (const auto action : unavailableActions)
-        (ui.get()->*action)->setEnabled(false);
 }
 
 void MainWindow::initUI()
@@ -148,6 +140,8 @@ void MainWindow::initSlotsAndSignals()
     connect(ui->actionRefresh_Scenario_Maps, &QAction::triggered, this, &MainWindow::refreshMaps);
     connect(ui->actionExit, &QAction::triggered, this, &MainWindow::quit);
     connect(ui->scenarioProperties, &QAction::triggered, this, &MainWindow::openScenarioProperties);
+    connect(ui->campaignProperties, &QAction::triggered, this, &MainWindow::openCampaignProperties);
+    connect(ui->actionConvertCmp, &QAction::triggered, this, &MainWindow::openConvertCampaign);
     connect(ui->actionAbout, &QAction::triggered, this, &MainWindow::about);
     for (const ToolTipRow &row : toolTipRows)
         connect(ui.get()->*row.action, &QAction::hovered, this, &MainWindow::setTooltipToHintBar);

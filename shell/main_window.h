@@ -87,6 +87,8 @@ private slots:
     void refreshMaps();
     void quit();
     void openScenarioProperties();
+    void openCampaignProperties();
+    void openConvertCampaign();
     void about();
     void setTooltipToHintBar();
 
@@ -98,6 +100,7 @@ private:
     void addBackground(const QImage &picture);
     void addRegion(int index);
     unsigned int askSaveChanges();
+    void showChangedCampaign();
     // The file's name without folder and endings, "Untitled" if the campaign has none.
     QString documentName() const;
     QString documentFolder() const;
