@@ -8,6 +8,7 @@
 #include "shell/dialog_look.h"
 #include "shell/editor_resources.h"
 #include "shell/exit_signals.h"
+#include "shell/fusion_style_tweaks.h"
 #include "shell/main_window.h"
 #include "shell/message_reporter.h"
 #include "shell/mss_info.h"
@@ -76,6 +77,11 @@ void leaveSystemFolder(Session &)
 {
     if (getSystemPath() == QDir::currentPath())
         QDir::setCurrent(QCoreApplication::applicationDirPath());
+}
+
+void setStyle(Session &)
+{
+    QApplication::setStyle(new FusionStyleTweaks); // which the application takes over
 }
 
 void stopComboAnimation(Session &)
@@ -177,12 +183,30 @@ void destroyWindows(Session &session)
     session.application.reset();
 }
 
-constexpr std::array<void (*)(Session &), 22> stages{{
-    setAttributes,      createApplication, loadSoundLibraryAhead, setFont,       leaveSystemFolder,
-    stopComboAnimation, createImageCache,  loadSettings,          loadTableFile, loadLanguage,
-    loadSplashPicture,  showSplash,        createWindow,          startSound,    openNamedFile,
-    showWindow,         preloadPattern,    runEventLoop,          writeSettings, freeTableFile,
-    freeSound,          destroyWindows,
+constexpr std::array<void (*)(Session &), 23> stages{{
+    setAttributes,
+    createApplication,
+    loadSoundLibraryAhead,
+    setFont,
+    leaveSystemFolder,
+    setStyle,
+    stopComboAnimation,
+    createImageCache,
+    loadSettings,
+    loadTableFile,
+    loadLanguage,
+    loadSplashPicture,
+    showSplash,
+    createWindow,
+    startSound,
+    openNamedFile,
+    showWindow,
+    preloadPattern,
+    runEventLoop,
+    writeSettings,
+    freeTableFile,
+    freeSound,
+    destroyWindows,
 }};
 
 } // namespace
