@@ -93,7 +93,7 @@ private:
 
 QString MssInfoTest::write(const QString &name, const QByteArray &bytes) const
 {
-    const QString path = m_game.filePath("MP3/" + name);
+    QString path = m_game.filePath("MP3/" + name);
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
         qFatal("cannot write %s", qPrintable(path));
