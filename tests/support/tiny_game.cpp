@@ -29,6 +29,7 @@ using game_files::TableEntry;
 constexpr QSize mapSize{456, 600};
 constexpr int creatureCount = 186;
 constexpr int artifactCount = 160;
+constexpr int movieCount = 3;
 constexpr int transparentIndex = 255;
 constexpr int glowValue = 128;
 constexpr int patternValue = 60;
@@ -144,6 +145,17 @@ void addKeeps(Files &files)
     }
 }
 
+QByteArray movieName(int video)
+{
+    return "movie" + QByteArray::number(video) + ".pcx";
+}
+
+void addMovies(Files &files)
+{
+    for (int video = 0; video < movieCount; ++video)
+        files[movieName(video)] = backgroundPicture({40, 30}, movieColour(video));
+}
+
 void addTexts(Files &files, const QByteArray &title)
 {
     files["CRTRAITS.TXT"] = wide("Creature ", 20, 2, 0);
@@ -156,7 +168,7 @@ void addTexts(Files &files, const QByteArray &title)
     files["JKTEXT.txt"] = numbered("Text ", 5);
     files["PlColors.txt"] = numbered("Colour ", 8);
     files["CmpMusic.txt"] = numbered("Music ", 3);
-    files["CmpMovie.txt"] = numbered("Movie ", 3);
+    files["CmpMovie.txt"] = numbered("Movie ", movieCount);
     files["BldgNeut.TXT"] = numbered("Neutral ", 16).replace("\r\n", "\tx\r\n") + "foot";
     files["BldgSpec.txt"] = numbered("Special ", 81);
     files["Dwelling.txt"] = numbered("Dwelling ", 140);
@@ -226,6 +238,7 @@ QByteArray tableFile()
         {"campmap24", {{0, "Home Shores"}, {1, "backhome.pcx"}, {8, homeLayout()}}},
         {"campmap30", {{0, "Hidden Realm"}, {1, "backlarge.pcx"}, {8, lines({"2", "0"})}}},
         {"cmpbackground1", {{8, "plainone.pcx\r\nplaintwo.pcx"}}},
+        {"cmpmoviepic1", {{8, lines({movieName(0), movieName(1), movieName(2)})}}},
     };
     addLateNames(entries);
     return game_files::tableFile(entries);
@@ -274,6 +287,7 @@ Game::Game(const QByteArray &globalSettings, const QByteArray &title)
     Files files;
     addTexts(files, title);
     addKeeps(files);
+    addMovies(files);
     addMasks(files, "r0", {40, 30}, 0);
     addMasks(files, "r1", {40, 30}, 10);
     addMasks(files, "r2", {20, 20}, 5);
@@ -336,6 +350,11 @@ QColor backgroundColour(const QString &name)
                                                {"plainone.pcx", {5, 5, 90}},
                                                {"plaintwo.pcx", {90, 5, 90}}};
     return colours.value(name);
+}
+
+QColor movieColour(int video)
+{
+    return {200 - 50 * video, 30 + 70 * video, 10 + 20 * video};
 }
 
 QColor readyMadeColour(int region, int state, int colour)

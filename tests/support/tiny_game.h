@@ -16,6 +16,8 @@
 //
 // Backgrounds: 0 "plainone.pcx", 1 "plaintwo.pcx". Picture "wide.pcx" has 32 bits a pixel.
 //
+// Movies: 0 "Movie 0" to 2 "Movie 2", with a picture of one colour each. Music: 0 "Music 0" to 2.
+//
 // Two archives: E3bitmap.lod, every other file of which is packed, and Ravn_lng.lod, which has
 // another PriSkill.txt. 186 creatures and 160 artifacts, the widths that the seed campaigns of the
 // fuzz targets are made for; so are three regions on map 24.
@@ -69,6 +71,7 @@ using packing::gzip;
 
 // Colours of backgrounds, by their pictures' names.
 QColor backgroundColour(const QString &name);
+QColor movieColour(int video);
 QColor readyMadeColour(int region, int state, int colour);
 // The look of map 24's regions in colour 2, with its opacity.
 QColor computedColour(int state);
