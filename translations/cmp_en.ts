@@ -437,6 +437,10 @@ Ravn_settings.ini must be in Eldmark root folder.</translation>
         <translation>Build %1 at Main Town</translation>
     </message>
     <message>
+        <source>+%1 %2</source>
+        <translation>+%1 %2</translation>
+    </message>
+    <message>
         <source>Give %1 to %2</source>
         <translation>Give %1 to %2</translation>
     </message>
@@ -572,6 +576,33 @@ Ravn_settings.ini must be in Eldmark root folder.</translation>
     <message>
         <source>Starting Options</source>
         <translation>Starting Options</translation>
+    </message>
+</context>
+<context>
+    <name>ScenarioPrologue</name>
+    <message>
+        <source>Has prologue</source>
+        <translation>Has prologue</translation>
+    </message>
+    <message>
+        <source>Has epilogue</source>
+        <translation>Has epilogue</translation>
+    </message>
+    <message>
+        <source>Set up</source>
+        <translation>Set up</translation>
+    </message>
+    <message>
+        <source>Video:</source>
+        <translation>Video:</translation>
+    </message>
+    <message>
+        <source>Music:</source>
+        <translation>Music:</translation>
+    </message>
+    <message>
+        <source>Message:</source>
+        <translation>Message:</translation>
     </message>
 </context>
 <context>

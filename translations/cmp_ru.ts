@@ -437,6 +437,10 @@ Ravn_settings.ini must be in Eldmark root folder.</source>
         <translation>Построить в главном городе: %1</translation>
     </message>
     <message>
+        <source>+%1 %2</source>
+        <translation>+%1 %2</translation>
+    </message>
+    <message>
         <source>Give %1 to %2</source>
         <translation>%2 получает: %1</translation>
     </message>
@@ -572,6 +576,33 @@ Ravn_settings.ini must be in Eldmark root folder.</source>
     <message>
         <source>Starting Options</source>
         <translation>Начальные условия</translation>
+    </message>
+</context>
+<context>
+    <name>ScenarioPrologue</name>
+    <message>
+        <source>Has prologue</source>
+        <translation>Есть пролог</translation>
+    </message>
+    <message>
+        <source>Has epilogue</source>
+        <translation>Есть эпилог</translation>
+    </message>
+    <message>
+        <source>Set up</source>
+        <translation>Настроить</translation>
+    </message>
+    <message>
+        <source>Video:</source>
+        <translation>Видео:</translation>
+    </message>
+    <message>
+        <source>Music:</source>
+        <translation>Музыка:</translation>
+    </message>
+    <message>
+        <source>Message:</source>
+        <translation>Сообщение:</translation>
     </message>
 </context>
 <context>
