@@ -37,7 +37,6 @@ private slots:
     void onlyRegionsThatLookDifferentAreDrawnAnew_data();
     void onlyRegionsThatLookDifferentAreDrawnAnew();
     void storiesComeBackWhole();
-    void dialogOpensAgain();
 
 private:
     // A window on a campaign of map 24 with maps in the first two regions, as the dialog leaves it.
@@ -382,19 +381,6 @@ void MainWindowScenarioTest::storiesComeBackWhole()
         QCOMPARE(saved.scenarios[0].epilogues[i]->text, QString("It ends"));
     }
     QVERIFY(saved.scenarios[0].crossover.creatures.testBit(9));
-}
-
-void MainWindowScenarioTest::dialogOpensAgain()
-{
-    const auto window = windowOnChain(1);
-    for (int expected = 1; expected < 4; ++expected) {
-        accept(*window, [&](ScenarioInfo &dialog) {
-            QCOMPARE(dialog.findChild<QListWidget *>("listWidget")->count(), expected);
-            press(dialog, "addBtn");
-        });
-        QVERIFY(window->findChildren<ScenarioInfo *>().isEmpty());
-    }
-    QCOMPARE(savedBy(*window).scenarios.size(), std::size_t(4));
 }
 
 QTEST_MAIN(MainWindowScenarioTest)
