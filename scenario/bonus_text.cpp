@@ -2,6 +2,7 @@
 
 #include "gamedata/editor_data.h"
 #include "gamedata/report.h"
+#include "scenario/bonus_type.h"
 #include "scenario/map_player.h"
 #include "scenario/naming.h"
 
@@ -11,12 +12,6 @@
 #include <array>
 
 namespace {
-
-// Resource numbers that stand for several resources at once, and the game's texts for them.
-constexpr int commonResources = 0xFD;
-constexpr int rareResources = 0xFE;
-constexpr int commonResourcesText = 27;
-constexpr int rareResourcesText = 28;
 
 // Whom a bonus is for.
 struct Recipient
@@ -67,14 +62,14 @@ QString scrollText(const Recipient &recipient, const QVariant &data)
         .arg(nameOf(EditorData::spells, bonus.spellId), recipient.hero(bonus.heroId));
 }
 
-// Those above 0, each as a number and a name, which isn't for translators.
+// Those above 0, each as a number and a name.
 QString skillList(const std::array<quint8, 4> &skills)
 {
     QStringList pieces;
     for (std::size_t i = 0; i < skills.size(); ++i) {
         if (skills[i] > 0) {
-            pieces << QStringLiteral("+%1 %2").arg(QString::number(skills[i]),
-                                                   nameOf(EditorData::primarySkills, int(i)));
+            pieces << QObject::tr("+%1 %2").arg(QString::number(skills[i]),
+                                                nameOf(EditorData::primarySkills, int(i)));
         }
     }
     return pieces.join(QStringLiteral(", "));
@@ -96,14 +91,11 @@ QString secondarySkillText(const Recipient &recipient, const QVariant &data)
 
 QString resourceName(int resource)
 {
-    switch (resource) {
-    case commonResources:
-        return nameOf(EditorData::jktext, commonResourcesText);
-    case rareResources:
-        return nameOf(EditorData::jktext, rareResourcesText);
-    default:
-        return nameOf(EditorData::resources, resource);
+    for (const ResourceGroup &group : resourceGroups) {
+        if (group.resource == resource)
+            return nameOf(EditorData::jktext, group.text);
     }
+    return nameOf(EditorData::resources, resource);
 }
 
 QString resourceText(const Recipient & /*recipient*/, const QVariant &data)

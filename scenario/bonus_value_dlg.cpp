@@ -14,14 +14,6 @@ namespace {
 constexpr int mostOfASkill = 99;
 constexpr int mostOfAResource = 99999;
 
-// Several resources at once, and the game's texts for them.
-struct ResourceGroup
-{
-    int resource;
-    int text;
-};
-constexpr std::array<ResourceGroup, 2> resourceGroups{{{0xFD, 27}, {0xFE, 28}}};
-
 } // namespace
 
 bonus_value_dlg::bonus_value_dlg(QWidget *parent)

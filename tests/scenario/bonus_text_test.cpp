@@ -208,7 +208,7 @@ void BonusTextTest::everyTextIsTranslatable_data()
     row("artifact", bonusWith(3, BonusArtifact{2, 4}), "[Give Moss Ring to Corvane]");
     row("scroll", bonusWith(4, BonusScroll{2, 2}), "[Give Thorns Spell Scroll to Corvane]");
     row("primary skill", bonusWith(5, BonusPrimarySkill{2, {1, 0, 3, 0}}),
-        "[Give +1 Attack, +3 Power to Corvane]");
+        "[Give [+1 Attack], [+3 Power] to Corvane]");
     row("secondary skill", bonusWith(6, BonusSecondarySkill{2, 1, 2}),
         "[Give Expert Sailing to Corvane]");
     row("resource", bonusWith(7, BonusResource{6, 5}), "[Receive 5 Gold]");
