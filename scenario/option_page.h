@@ -18,6 +18,14 @@ class QHelpEvent;
 class QPushButton;
 class ScenarioData;
 
+// The kinds of start options, as they are stored; 0 is none.
+enum StartOptionType : unsigned int
+{
+    BonusOption = 1,
+    CrossoverOption = 2,
+    HeroOption = 3,
+};
+
 class OptionPage : public QWidget
 {
     Q_OBJECT

@@ -14,11 +14,6 @@
 
 namespace {
 
-// As they are stored.
-constexpr unsigned int bonusType = 1;
-constexpr unsigned int crossoverType = 2;
-constexpr unsigned int heroType = 3;
-
 template<typename Row>
 bool sameRows(std::vector<Row> a, std::vector<Row> b)
 {
@@ -31,11 +26,11 @@ bool sameOptions(const CmpScenarioStartOptions &a, const CmpScenarioStartOptions
 {
     if (a.optionType != b.optionType)
         return false;
-    if (a.optionType == bonusType) {
+    if (a.optionType == BonusOption) {
         return sameRows(a.optionData.value<StartingBonusSet>().bonuses,
                         b.optionData.value<StartingBonusSet>().bonuses);
     }
-    if (a.optionType == heroType) {
+    if (a.optionType == HeroOption) {
         return sameRows(a.optionData.value<StartingHeroSet>().entries,
                         b.optionData.value<StartingHeroSet>().entries);
     }
@@ -83,9 +78,9 @@ void ScenarioStartOptions::initSlotsAndSignals()
 // map allows.
 std::array<ScenarioStartOptions::Kind, 3> ScenarioStartOptions::kinds() const
 {
-    return {{{bonusType, ui->startingBonusBtn, startingBonus},
-             {heroType, ui->startingHeroBtn, startingHero},
-             {crossoverType, ui->heroCrosssoverBtn, heroCrossover}}};
+    return {{{BonusOption, ui->startingBonusBtn, startingBonus},
+             {HeroOption, ui->startingHeroBtn, startingHero},
+             {CrossoverOption, ui->heroCrosssoverBtn, heroCrossover}}};
 }
 
 void ScenarioStartOptions::initInfo(ScenarioInfo *info, CampaignData *campaign,
@@ -257,9 +252,9 @@ unsigned int ScenarioStartOptions::getOptionCount()
 QVariant ScenarioStartOptions::rowsOfKind(unsigned int type)
 {
     switch (type) {
-    case bonusType:
+    case BonusOption:
         return rowsOf<StartingBonusSet>(startingBonus);
-    case heroType:
+    case HeroOption:
         return rowsOf<StartingHeroSet>(startingHero);
     default:
         return rowsOf<HeroCrossoverSet>(heroCrossover);

@@ -14,8 +14,6 @@
 
 namespace {
 
-constexpr quint32 bonusOption = 1; // the kind of start option that this page edits
-
 CmpStartingBonus bonusOf(const QTableWidgetItem *item)
 {
     return {item->data(bonusTypeRole).value<quint8>(), item->data(Qt::UserRole)};
@@ -48,10 +46,8 @@ void StartingBonus::initUI()
     addButton()->setEnabled(true);
     editButton()->setEnabled(false);
     removeButton()->setEnabled(false);
-    if (scenario && scenario->mapHeader) { // without a map, the players stay as they are
-        const QScopedValueRollback<bool> unready(ready, false);
+    if (scenario && scenario->mapHeader) // without a map, the players stay as they are
         fillPlayers();
-    }
 }
 
 void StartingBonus::initInfo(ScenarioData *newScenario, unsigned int newCampaignMap)
@@ -62,7 +58,7 @@ void StartingBonus::initInfo(ScenarioData *newScenario, unsigned int newCampaign
     resetTable(1);
     fillPlayers();
     const CmpScenarioStartOptions *options = scenario->startOptions.get();
-    if (options && options->optionType == bonusOption)
+    if (options && options->optionType == BonusOption)
         loadBonuses(options->optionData.value<StartingBonusSet>());
     updateUI();
 }

@@ -20,7 +20,8 @@ public:
     ~StartingBonus() override;
 
     void initSlotsAndSignals();
-    // A new row may be added, none is selected, the players are those a human can play.
+    // A new row may be added, none is selected, the players are those a human can play; rows that
+    // the first of them can't be given are gone.
     void initUI();
     // Loads the scenario's bonuses as they are stored, valid or not.
     void initInfo(ScenarioData *scenario, unsigned int campaignMap);

@@ -1,10 +1,12 @@
 #include "scenario/starting_bonus.h"
 
+#include "shell/dialog_look.h"
 #include "tests/scenario/bonus_page.h"
 #include "tests/support/report_recorder.h"
 
 #include <QHeaderView>
 #include <QHelpEvent>
+#include <QLayout>
 #include <QToolTip>
 #include <QtTest>
 
@@ -29,7 +31,7 @@ private slots:
     void anUnknownTypeEndsTheProcess();
     void savesTheRowsInTheirOrder();
     void savesPlayerZeroWithoutPlayers();
-    void listingPlayersJudgesNothing();
+    void listingPlayersHandsTheRowsToTheFirst();
     void withoutAMapNoPlayersAreListed();
     void clearingTakesRowsAndPlayersAway();
     void theScenarioMayMove();
@@ -60,6 +62,10 @@ void StartingBonusTest::controlsHaveTheirTexts()
     QCOMPARE(test.page.windowTitle(), QString("Form"));
     QCOMPARE(test.table()->columnCount(), 1);
     QCOMPARE(test.table()->horizontalHeaderItem(0)->text(), QString("Starting bonus option"));
+    for (const char *container : {"layoutWidget", "layoutWidget1"})
+        QVERIFY(childOf<QWidget>(&test.page, container)->isVisible());
+    for (const char *layout : {"horizontalLayout", "gridLayout"})
+        QVERIFY(test.page.findChild<QLayout *>(layout));
 }
 
 void StartingBonusTest::theTableIsAPlainList()
@@ -73,6 +79,7 @@ void StartingBonusTest::theTableIsAPlainList()
     QVERIFY(table->horizontalHeader()->isVisible());
     QVERIFY(table->horizontalHeader()->defaultAlignment() & Qt::AlignLeft);
     QVERIFY(table->horizontalHeader()->stretchLastSection());
+    QCOMPARE(table->horizontalHeader()->font(), editorFont());
     QCOMPARE(table->horizontalHeader()->font().pointSize(), 8);
     QCOMPARE(table->selectionBehavior(), QAbstractItemView::SelectItems);
     QCOMPARE(table->selectionMode(), QAbstractItemView::SingleSelection);
@@ -227,16 +234,16 @@ void StartingBonusTest::savesPlayerZeroWithoutPlayers()
     QCOMPARE(set.bonuses.size(), std::size_t(1));
 }
 
-void StartingBonusTest::listingPlayersJudgesNothing()
+void StartingBonusTest::listingPlayersHandsTheRowsToTheFirst()
 {
     BonusPage test;
-    test.load({{1, human()}, {2, humanWithHulda()}}, 2, {hulda});
+    test.load({{1, human()}, {2, humanWithHulda()}}, 2, {hulda, gold});
     test.clickRow(0);
     test.button("addButton")->setEnabled(false);
     test.page.initUI();
     QCOMPARE(test.players()->count(), 2);
     QCOMPARE(test.players()->currentText(), QString("Blue"));
-    QCOMPARE(test.texts(), QStringList({huldaText}));
+    QCOMPARE(test.texts(), QStringList({goldText}));
     QCOMPARE(test.enabledButtons(), QString("add"));
 }
 
