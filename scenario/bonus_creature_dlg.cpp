@@ -5,7 +5,6 @@
 #include "scenario/choice_box.h"
 #include "scenario/naming.h"
 #include "scenario/option_page.h"
-#include "shell/right_click_filter.h"
 #include "ui_bonus_creature_dlg.h"
 
 BonusCreatureDlg::BonusCreatureDlg(QWidget *parent)

@@ -16,7 +16,6 @@
 namespace {
 
 constexpr const char *typeProperty = "Bonus"; // of a page: its kind, an int
-constexpr quint8 randomTown = 0xFF;
 
 template<typename Record>
 QVariant spellRecord(const bonus_multibox_dlg *page)

@@ -7,7 +7,6 @@
 #include "scenario/map_player.h"
 #include "scenario/naming.h"
 #include "scenario/option_page.h"
-#include "shell/right_click_filter.h"
 #include "ui_bonus_multibox_dlg.h"
 
 #include <algorithm>
@@ -19,6 +18,7 @@ namespace {
 constexpr unsigned int lastArtifactKept = 3;
 constexpr int townWithLateBuildings = 10;
 constexpr std::array<int, 2> lateBuildings{19, 20}; // at the end of that town's list
+
 // In the order of the numbers, which are the items' data.
 void addNames(QComboBox *box, const std::map<int, QString> &names)
 {

@@ -6,6 +6,7 @@
 #include <tuple>
 
 constexpr unsigned int playerCount = std::tuple_size<decltype(MapHeader::players)>::value;
+constexpr unsigned int randomTown = 0xFF; // as a main town's type
 
 // Null without a map and for a number that no player has.
 inline const PlayerAttributes *playerOnMap(const ScenarioData &scenario, unsigned int player)

@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr unsigned int randomTown = 0xFF;
-
 template<typename Record>
 unsigned int heroOf(const QVariant &data)
 {
