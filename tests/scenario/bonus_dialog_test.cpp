@@ -5,6 +5,7 @@
 #include "shell/dialog_look.h"
 
 #include <QLabel>
+#include <QLayout>
 #include <QTranslator>
 #include <QWindow>
 
@@ -64,9 +65,11 @@ void BonusDialogTest::windowHasItsTextsAndLook()
     QCOMPARE(open.dialog.windowModality(), Qt::ApplicationModal);
     QCOMPARE(open.dialog.minimumSize(), open.dialog.maximumSize());
     QVERIFY(!open.dialog.windowFlags().testFlag(Qt::WindowContextHelpButtonHint));
-    QCOMPARE(open.stack()->count(), 8);
     for (const char *container : {"layoutWidget", "frame"})
         QVERIFY(open.find<QWidget>(container)->isVisible());
+    QVERIFY(open.dialog.findChild<QLayout *>("gridLayout"));
+    for (const char *empty : {"page", "page_2"}) // behind the eight
+        QVERIFY(open.stack()->indexOf(open.find<QWidget>(empty)) >= 8);
     QVERIFY(open.ok()->isEnabled());
     QVERIFY(open.cancel()->isEnabled());
 }
@@ -90,6 +93,7 @@ void BonusDialogTest::everyKindHasItsButtonAndPage()
     const QVariant property = open.page()->property("Bonus");
     QCOMPARE(property.userType(), int(QMetaType::Int));
     QCOMPARE(property.toInt(), kind);
+    QCOMPARE(open.stack()->currentIndex(), kind);
     QCOMPARE(open.page()->metaObject()->className(), row.pageClass);
     bool found = false;
     for (const QLabel *label : open.page()->findChildren<QLabel *>())

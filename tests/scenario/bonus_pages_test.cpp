@@ -2,6 +2,8 @@
 // which data.
 #include "tests/scenario/bonus_page_fixture.h"
 
+#include "shell/right_click_filter.h"
+
 class BonusPagesTest : public QObject
 {
     Q_OBJECT
@@ -9,6 +11,9 @@ class BonusPagesTest : public QObject
 private slots:
     void init();
 
+    void formsHaveTheirTexts();
+    void oneFilterServesAPage_data();
+    void oneFilterServesAPage();
     void shownControlsHaveTheirTexts_data();
     void shownControlsHaveTheirTexts();
     void recipientsAreThePlayersHeroes_data();
@@ -32,6 +37,42 @@ void BonusPagesTest::init()
 {
     fillBonusTables();
     fixture = std::make_unique<PageFixture>();
+}
+
+// Before a page is made one of its kind.
+void BonusPagesTest::formsHaveTheirTexts()
+{
+    const auto textOf = [](const QWidget &page, const char *label) {
+        const auto *found = page.findChild<QLabel *>(label);
+        return found ? found->text() : QString();
+    };
+    const bonus_multibox_dlg boxes(nullptr);
+    QCOMPARE(textOf(boxes, "recipientLabel"), QString("Recipient:"));
+    QCOMPARE(textOf(boxes, "item1label"), QString("Item 1:"));
+    QCOMPARE(textOf(boxes, "item2label"), QString("Item 2:"));
+    const bonus_value_dlg values(nullptr);
+    QCOMPARE(textOf(values, "datatypeLabel"), QString("Datatype:"));
+    for (const char *label : {"valueLabel1", "valueLabel2", "valueLabel3", "valueLabel4"})
+        QCOMPARE(textOf(values, label), QString("Value1:"));
+}
+
+void BonusPagesTest::oneFilterServesAPage_data()
+{
+    QTest::addColumn<MakePage>("page");
+    QTest::newRow("creatures") << creatures();
+    QTest::newRow("spells") << spells;
+    QTest::newRow("resources") << resources();
+}
+
+void BonusPagesTest::oneFilterServesAPage()
+{
+    QFETCH(MakePage, page);
+    fixture->make(page, townPlayer);
+    QCOMPARE(
+        fixture->parent->findChildren<RightClickFilter *>(QString(), Qt::FindDirectChildrenOnly)
+            .size(),
+        1);
+    QCOMPARE(fixture->parent->findChildren<RightClickFilter *>().size(), 1);
 }
 
 void BonusPagesTest::shownControlsHaveTheirTexts_data()

@@ -3,6 +3,7 @@
 #include "tests/scenario/start_options_tab.h"
 
 #include <QLabel>
+#include <QLayout>
 
 class ScenarioStartOptionsTest : public QObject
 {
@@ -46,6 +47,8 @@ void ScenarioStartOptionsTest::controlsHaveTypesAndTexts_data()
     QTest::newRow(crossoverButton) << QByteArray("QRadioButton") << "Hero crossover options";
     QTest::newRow(heroButton) << QByteArray("QRadioButton") << "Starting hero options";
     QTest::newRow("stackedWidget") << QByteArray("QStackedWidget") << "";
+    QTest::newRow("frame") << QByteArray("QFrame") << "";
+    QTest::newRow("layoutWidget") << QByteArray("QWidget") << "";
 }
 
 void ScenarioStartOptionsTest::controlsHaveTypesAndTexts()
@@ -67,6 +70,9 @@ void ScenarioStartOptionsTest::editorsStandInOrder()
     StartOptionsTab open;
     auto *stack = childOf<QStackedWidget>(&open.tab, "stackedWidget");
     const QList<QWidget *> editors = open.editors();
+    for (const char *empty : {"page", "page_2"})
+        QVERIFY(stack->indexOf(childOf<QWidget>(&open.tab, empty)) >= 0);
+    QVERIFY(open.tab.findChild<QLayout *>("verticalLayout"));
     const int first = stack->indexOf(editors[0]);
     QVERIFY(first >= 0);
     QCOMPARE(stack->indexOf(editors[1]), first + 1);
