@@ -1,0 +1,161 @@
+// The commands that write the maps of the window's campaign beside it and read them again.
+#include "scenario/scenario_info.h"
+#include "tests/shell/exchange_window.h"
+
+#include <QDialogButtonBox>
+#include <QPushButton>
+
+class MainWindowMapsTest : public QObject, private ExchangeWindow
+{
+    Q_OBJECT
+
+private slots:
+    void init() { reset(); }
+    void cleanup();
+
+    void exportMapsWritesBesideTheCampaign();
+    void exportMapsSaysNothing();
+    void exportMapsOfAnUntitledCampaignUsesTheCurrentFolder();
+    void refreshMapsReadsBesideTheCampaign();
+    void refreshMapsEndsAtAMissingFile_data();
+    void refreshMapsEndsAtAMissingFile();
+    void refreshMapsWarnsOfARefusedMapAndGoesOn();
+    void refreshMapsWarnsOfAnUnreadableFileAndEnds();
+    void refreshMapsOfNoMapsCountsAsAChange();
+};
+
+void MainWindowMapsTest::cleanup()
+{
+    QVERIFY(!QApplication::overrideCursor());
+    window.reset();
+}
+
+void MainWindowMapsTest::exportMapsWritesBesideTheCampaign()
+{
+    load();
+    writeFile("three.e3m", "old");
+    trigger("actionExport_Scenario_Maps");
+    QCOMPARE(QDir(folder->path()).entryList(QDir::Files | QDir::Hidden, QDir::Name),
+             QStringList({"home.e3c", "one.e3m", "three.e3m"}));
+    QCOMPARE(contents(path("one.e3m")), mapNamed("Ironmoors"));
+    QCOMPARE(contents(path("three.e3m")), mapNamed("Stonegate"));
+    QVERIFY(!EditorData::info.modified);
+    QCOMPARE(usedFolderBytes(), QByteArray());
+}
+
+void MainWindowMapsTest::exportMapsSaysNothing()
+{
+    load();
+    QVERIFY(QDir(folder->path()).mkdir("one.e3m"));
+    trigger("actionExport_Scenario_Maps");
+    QVERIFY(!QApplication::activeModalWidget());
+    QCOMPARE(contents(path("three.e3m")), mapNamed("Stonegate"));
+}
+
+void MainWindowMapsTest::exportMapsOfAnUntitledCampaignUsesTheCurrentFolder()
+{
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir(folder->path()).mkdir("here"));
+    QVERIFY(QDir::setCurrent(path("here")));
+    const QString file = writeFile("two.e3m", mapNamed("Ironmoors"));
+    {
+        NextDialog properties([](QWidget *widget) {
+            auto *dialog = qobject_cast<ScenarioInfo *>(widget);
+            clickOn(dialog->findChild<QPushButton *>("refreshButton"));
+            clickOn(
+                dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Ok));
+        });
+        NextDialog map(chooseFile({"Open",
+                                   fixture.game.filePath("Maps"),
+                                   "",
+                                   {"Eldmark Saga map (*.e3m)", "All Files (*)"}},
+                                  file));
+        trigger("scenarioProperties");
+    }
+    trigger("actionExport_Scenario_Maps");
+    QCOMPARE(contents(path("here/two.e3m")), mapNamed("Ironmoors"));
+    writeFile("here/two.e3m", mapNamed("Stonegate"));
+    trigger("actionRefresh_Scenario_Maps");
+    QDir::setCurrent(before);
+    QCOMPARE(savedByTheWindow().scenarios[0].compressedMap, mapNamed("Stonegate"));
+}
+
+void MainWindowMapsTest::refreshMapsReadsBesideTheCampaign()
+{
+    load();
+    writeFile("one.e3m", mapNamed("Moorlands"));
+    writeFile("three.e3m", mapNamed("Graystone"));
+    trigger("actionRefresh_Scenario_Maps");
+    QVERIFY(EditorData::info.modified);
+    QCOMPARE(window->windowTitle(), "home.e3c* - " + appTitle);
+    const CampaignData saved = savedByTheWindow();
+    QCOMPARE(saved.scenarios[0].mapHeader->mapName, QString("Moorlands"));
+    QCOMPARE(saved.scenarios[2].compressedMap, mapNamed("Graystone"));
+}
+
+void MainWindowMapsTest::refreshMapsEndsAtAMissingFile_data()
+{
+    QTest::addColumn<bool>("modified");
+    QTest::newRow("unchanged before") << false;
+    QTest::newRow("changed before") << true;
+}
+
+void MainWindowMapsTest::refreshMapsEndsAtAMissingFile()
+{
+    QFETCH(bool, modified);
+    load();
+    EditorData::info.modified = modified;
+    window->updateWindowTitle();
+    writeFile("one.e3m", mapNamed("Moorlands"));
+    trigger("actionRefresh_Scenario_Maps");
+    QVERIFY(!QApplication::activeModalWidget());
+    QCOMPARE(EditorData::info.modified, modified);
+    QCOMPARE(window->windowTitle(), (modified ? "home.e3c* - " : "home.e3c - ") + appTitle);
+    const CampaignData saved = savedByTheWindow();
+    QCOMPARE(saved.scenarios[0].mapHeader->mapName, QString("Moorlands"));
+    QCOMPARE(saved.scenarios[2].mapHeader->mapName, QString("Stonegate"));
+}
+
+void MainWindowMapsTest::refreshMapsWarnsOfARefusedMapAndGoesOn()
+{
+    load();
+    writeFile("one.e3m", mapNamed("Nobodies.", 0));
+    writeFile("three.e3m", mapNamed("Graystone"));
+    {
+        NextDialog box(withoutHourglass(warning("Cannot read file one.e3m. Map has errors.")));
+        trigger("actionRefresh_Scenario_Maps");
+    }
+    QVERIFY(EditorData::info.modified);
+    QCOMPARE(window->windowTitle(), "home.e3c* - " + appTitle);
+    const CampaignData saved = savedByTheWindow();
+    QCOMPARE(saved.scenarios[0].compressedMap, mapNamed("Ironmoors"));
+    QCOMPARE(saved.scenarios[2].compressedMap, mapNamed("Graystone"));
+}
+
+void MainWindowMapsTest::refreshMapsWarnsOfAnUnreadableFileAndEnds()
+{
+    load();
+    writeFile("one.e3m", "");
+    writeFile("three.e3m", mapNamed("Graystone"));
+    {
+        NextDialog box(withoutHourglass(warning("Cannot read file one.e3m:\nUnknown error.")));
+        trigger("actionRefresh_Scenario_Maps");
+    }
+    QVERIFY(!EditorData::info.modified);
+    QCOMPARE(window->windowTitle(), "home.e3c - " + appTitle);
+    QCOMPARE(savedByTheWindow().scenarios[2].compressedMap, mapNamed("Stonegate"));
+}
+
+void MainWindowMapsTest::refreshMapsOfNoMapsCountsAsAChange()
+{
+    CampaignData campaign;
+    campaign.initDummyCampaign(24, true, 0, 0);
+    save(campaign);
+    load();
+    trigger("actionRefresh_Scenario_Maps");
+    QVERIFY(EditorData::info.modified);
+    QCOMPARE(window->windowTitle(), "home.e3c* - " + appTitle);
+}
+
+QTEST_MAIN(MainWindowMapsTest)
+#include "main_window_maps_test.moc"
