@@ -5,6 +5,7 @@
 #include "tools/sample_game/art/splash.h"
 
 #include <QDir>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QTextStream>
 
@@ -102,7 +103,7 @@ void writeAll(const QDir &dir)
 
 void writeResources(const QDir &dir)
 {
-    constexpr std::array<int, 6> kIconSizes = {16, 32, 48, 64, 128, 256};
+    constexpr std::array<int, 7> kIconSizes = {16, 24, 32, 48, 64, 128, 256};
     const QImage splash = art::paintSplash(kSplashWidth, kSplashHeight);
     const QImage evening = art::paintEveningSplash(kSplashWidth, kSplashHeight);
     save(splash, dir, QStringLiteral("ravn_cmped_en.png"));
@@ -120,6 +121,7 @@ void writeResources(const QDir &dir)
 
 int main(int argc, char **argv)
 {
+    const QGuiApplication application(argc, argv); // for the splash pictures' letters
     const bool resources = argc == 3 && qstrcmp(argv[1], "--resources") == 0;
     if (argc != 2 && !resources) {
         QTextStream(stderr) << "usage: paint_preview [--resources] DIR\n";

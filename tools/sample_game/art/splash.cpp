@@ -7,6 +7,7 @@
 #include "tools/sample_game/art/scene_tools.h"
 #include "tools/sample_game/art/themes.h"
 
+#include <QPainterPath>
 #include <QtMath>
 
 namespace art {
@@ -47,7 +48,7 @@ Hour morning()
 Hour nightfall()
 {
     return {{{18, 24, 62}, {62, 54, 110}, {176, 96, 122}, {250, 166, 120}},
-            {0.70, 0.22},
+            {0.09, 0.20},
             {240, 232, 206},
             {170, 104, 132},
             {74, 66, 112},
@@ -140,20 +141,58 @@ QImage paintScene(const Hour &hour, int width, int height)
     return image;
 }
 
+// A line of golden letters with its middle there, their edges dark so that they stand out from any
+// sky. The height is that of the font, in pixels.
+void letter(QPainter &painter, const QString &text, QPointF middle, double height)
+{
+    QFont font(QStringLiteral("P052"));
+    font.setStyleHint(QFont::Serif);
+    font.setBold(true);
+    font.setPixelSize(qRound(height));
+    QPainterPath path;
+    path.addText(0, 0, font, text);
+    const QRectF extent = path.boundingRect();
+    path.translate(middle - extent.center());
+    QLinearGradient gold(0, middle.y() - extent.height() / 2, 0, middle.y() + extent.height() / 2);
+    gold.setColorAt(0, QColor(255, 246, 206));
+    gold.setColorAt(1, QColor(238, 186, 84));
+    const QColor edge(44, 22, 20);
+    painter.strokePath(
+        path.translated(0, height * 0.06),
+        QPen(QColor(20, 10, 16, 120), height * 0.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.strokePath(path, QPen(edge, height * 0.14, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.fillPath(path, gold);
+}
+
+QImage paintTitled(const Hour &hour, const QStringList &title, int width, int height)
+{
+    QImage image = paintScene(hour, width, height);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double size = height * 0.105;
+    for (int i = 0; i < title.size(); ++i)
+        letter(painter, title[i], {width * 0.70, height * 0.13 + size * 1.25 * i}, size);
+    return image;
+}
+
 } // namespace
 
 QImage paintSplash(int width, int height)
 {
-    return paintScene(morning(), width, height);
+    return paintTitled(morning(), {QStringLiteral("Campaign"), QStringLiteral("Editor")}, width,
+                       height);
 }
 
 QImage paintEveningSplash(int width, int height)
 {
-    return paintScene(nightfall(), width, height);
+    return paintTitled(nightfall(), {QStringLiteral("Редактор"), QStringLiteral("кампаний")}, width,
+                       height);
 }
 
 QImage paintAppIcon(int size)
 {
+    // At few pixels the lines between the regions would swallow the regions.
+    const bool isSmall = size < 32;
     // Painted four times as large and scaled down: small sizes stay crisp that way.
     const int large = size * 4;
     QImage image(large, large, QImage::Format_ARGB32_Premultiplied);
@@ -165,7 +204,8 @@ QImage paintAppIcon(int size)
     painter.setPen(QPen(QColor(70, 42, 20), 5));
     painter.setBrush(QColor(238, 214, 160));
     painter.drawRoundedRect(QRectF(4, 14, 92, 82), 10, 10);
-    painter.setPen(QPen(QColor(58, 34, 18), 4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(
+        QPen(QColor(58, 34, 18), isSmall ? 1 : 4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(QColor(70, 130, 216));
     painter.drawPolygon(polygon({{12, 24}, {40, 20}, {48, 44}, {34, 60}, {12, 56}}));
     painter.setBrush(QColor(84, 168, 70));
@@ -175,9 +215,10 @@ QImage paintAppIcon(int size)
     painter.setBrush(QColor(152, 84, 182));
     painter.drawPolygon(polygon({{12, 56}, {34, 60}, {50, 88}, {12, 88}}));
 
-    painter.setPen(QPen(QColor(48, 28, 16), 7, Qt::SolidLine, Qt::RoundCap));
+    painter.setPen(QPen(QColor(48, 28, 16), isSmall ? 8 : 7, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(QPointF(52, 72), QPointF(52, 8));
-    painter.setPen(QPen(QColor(96, 16, 20), 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(
+        QPen(QColor(96, 16, 20), isSmall ? 1 : 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(QColor(224, 40, 44));
     painter.drawPolygon(polygon({{54, 6}, {94, 14}, {82, 25}, {94, 38}, {54, 38}}));
     painter.end();
