@@ -1,0 +1,439 @@
+// The program's style, pixel by pixel where it draws itself, and the same as Fusion elsewhere.
+#include "shell/editor_resources.h"
+#include "shell/fusion_style_tweaks.h"
+#include "shell/style.h"
+#include "tests/support/message_boxes.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QIcon>
+#include <QListWidget>
+#include <QPainter>
+#include <QStyleFactory>
+#include <QStyleOptionToolBar>
+#include <QSvgRenderer>
+#include <QTest>
+
+Q_DECLARE_METATYPE(QStyle::State)
+
+namespace {
+
+constexpr QRgb ground = qRgb(120, 40, 90); // in none of the colours drawn
+constexpr QRect box(3, 3, 14, 14);
+constexpr QRgb white = qRgb(255, 255, 255);
+constexpr QRgb black = qRgb(0, 0, 0);
+constexpr QRgb grayLine = qRgb(190, 190, 190);
+
+QImage canvas(int width = 20, int height = 20)
+{
+    QImage image(width, height, QImage::Format_RGB32);
+    image.fill(ground);
+    return image;
+}
+
+QImage primitive(const QStyle &style, QStyle::PrimitiveElement element, QStyle::State state,
+                 const QRect &rect = box)
+{
+    QImage image = canvas();
+    QPainter painter(&image);
+    QStyleOptionButton option;
+    option.rect = rect;
+    option.state = state;
+    style.drawPrimitive(element, &option, &painter);
+    return image;
+}
+
+void addStates()
+{
+    QTest::addColumn<QStyle::State>("state");
+    QTest::newRow("disabled") << QStyle::State(QStyle::State_None);
+    QTest::newRow("enabled") << QStyle::State(QStyle::State_Enabled);
+    QTest::newRow("hovered") << (QStyle::State_Enabled | QStyle::State_MouseOver);
+    QTest::newRow("pressed") << (QStyle::State_Enabled | QStyle::State_Sunken);
+}
+
+// The colours of the two looks where they are told.
+void addLooks()
+{
+    QTest::addColumn<QStyle::State>("state");
+    QTest::addColumn<bool>("dark");
+    QTest::addColumn<QRgb>("line");
+    QTest::addColumn<QRgb>("fill");
+    const QStyle::State off = QStyle::State_None;
+    const QStyle::State on = QStyle::State_Enabled;
+    QTest::newRow("standard, enabled") << on << false << black << white;
+    QTest::newRow("standard, disabled") << off << false << grayLine << ground;
+    const QRgb darkLine = QColor(Qt::lightGray).rgb();
+    QTest::newRow("dark, enabled") << on << true << darkLine << white;
+    QTest::newRow("dark, disabled") << off << true << darkLine << ground;
+}
+
+void useLook(bool dark)
+{
+    if (dark)
+        Style::useDark();
+    else
+        Style::useStandard();
+}
+
+QImage toolBar(const QStyle &style, const QPalette &palette)
+{
+    QImage image = canvas(200, 30);
+    QPainter painter(&image);
+    QStyleOptionToolBar option;
+    option.rect = {0, 0, 200, 30};
+    option.palette = palette;
+    option.toolBarArea = Qt::TopToolBarArea;
+    option.state = QStyle::State_Horizontal;
+    style.drawControl(QStyle::CE_ToolBar, &option, &painter);
+    return image;
+}
+
+} // namespace
+
+class FusionStyleTweaksTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { initEditorResources(); }
+    void cleanup() { Style::useStandard(); }
+    void elementsHaveTheirNumbers();
+    void checkBoxIsARectangle_data() { addLooks(); }
+    void checkBoxIsARectangle();
+    void checkMarkLiesOnTheBox_data() { addLooks(); }
+    void checkMarkLiesOnTheBox();
+    void disabledCheckedBoxIsGrayWithoutFill();
+    void checkBoxTellsHoveredAndPressed();
+    void radioButtonIsACircle_data() { addLooks(); }
+    void radioButtonIsACircle();
+    void chosenRadioButtonHasADot_data() { addStates(); }
+    void chosenRadioButtonHasADot();
+    void radioButtonTellsHoveredAndPressed();
+    void painterIsLeftAsItWas_data();
+    void painterIsLeftAsItWas();
+    void dropLineSpansTheWidget_data();
+    void dropLineSpansTheWidget();
+    void emptyDropPlaceIsFusions();
+    void otherPrimitivesAreFusions();
+    void toolBarIsFusionsInTheStandardLook();
+    void toolBarIsHalfAsBrightInTheDarkLook();
+    void headerMarginGrowsByHalf();
+    void otherMetricsAreFusions();
+    void comboBoxesOpenAsLists();
+    void comboBoxOpensUnderItsField();
+    void closeIconIsACrossedSquare();
+    void closeIconIsDrawnOnce();
+    void otherIconsAreFusions();
+
+private:
+    FusionStyleTweaks style;
+    std::unique_ptr<QStyle> fusion{QStyleFactory::create("fusion")};
+};
+
+void FusionStyleTweaksTest::elementsHaveTheirNumbers()
+{
+    QCOMPARE(int(QStyle::CE_ToolBar), 40);
+    QCOMPARE(int(QStyle::PE_IndicatorCheckBox), 26);
+    QCOMPARE(int(QStyle::PE_IndicatorRadioButton), 31);
+    QCOMPARE(int(QStyle::PE_IndicatorItemViewItemDrop), 43);
+    QCOMPARE(int(QStyle::PM_HeaderMargin), 46);
+    QCOMPARE(int(QStyle::SH_ComboBox_Popup), 25);
+    QCOMPARE(int(QStyle::SP_TitleBarCloseButton), 3);
+}
+
+void FusionStyleTweaksTest::checkBoxIsARectangle()
+{
+    QFETCH(QStyle::State, state);
+    QFETCH(bool, dark);
+    QFETCH(QRgb, line);
+    QFETCH(QRgb, fill);
+    useLook(dark);
+    const QImage image = primitive(style, QStyle::PE_IndicatorCheckBox, state | QStyle::State_Off);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const bool inside = box.contains(x, y, true);
+            const QRgb expected = inside ? fill : box.contains(x, y) ? line : ground;
+            QCOMPARE(QColor(image.pixel(x, y)).name(), QColor(expected).name());
+        }
+    }
+}
+
+void FusionStyleTweaksTest::checkMarkLiesOnTheBox()
+{
+    QFETCH(QStyle::State, state);
+    QFETCH(bool, dark);
+    useLook(dark);
+    QImage expected = primitive(style, QStyle::PE_IndicatorCheckBox, state | QStyle::State_Off);
+    QPainter painter(&expected);
+    QSvgRenderer mark(state & QStyle::State_Enabled ? QStringLiteral(":/icons/checkmark_black.svg")
+                                                    : QStringLiteral(":/icons/checkmark_gray.svg"));
+    const QImage empty = expected;
+    mark.render(&painter, QRectF(box));
+    painter.end();
+    QVERIFY(expected != empty);
+    QCOMPARE(primitive(style, QStyle::PE_IndicatorCheckBox, state | QStyle::State_On), expected);
+}
+
+// The whole way, from the widget on.
+void FusionStyleTweaksTest::disabledCheckedBoxIsGrayWithoutFill()
+{
+    QCheckBox checkBox;
+    checkBox.setStyle(&style);
+    QPalette palette = checkBox.palette();
+    palette.setColor(QPalette::Window, QColor(ground));
+    checkBox.setPalette(palette);
+    checkBox.setChecked(true);
+    checkBox.setEnabled(false);
+    const QImage image = checkBox.grab().toImage();
+    int grounds = 0;
+    int marks = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor colour = image.pixelColor(x, y);
+            grounds += colour.rgb() == ground;
+            marks += colour == QColor(0x8C, 0x8C, 0x8C);
+            QVERIFY2(colour.rgb() != white && colour.rgb() != black, qPrintable(colour.name()));
+        }
+    }
+    QVERIFY(marks > 0);
+    QVERIFY(grounds > 60); // of the 144 within the box's lines, where a fill would lie
+}
+
+void FusionStyleTweaksTest::checkBoxTellsHoveredAndPressed()
+{
+    const QStyle::State on = QStyle::State_Enabled | QStyle::State_Off;
+    const auto fill = [&](QStyle::State state) {
+        return primitive(style, QStyle::PE_IndicatorCheckBox, state).pixel(box.center());
+    };
+    const QSet<QRgb> fills{fill(on), fill(on | QStyle::State_MouseOver),
+                           fill(on | QStyle::State_Sunken), ground};
+    QCOMPARE(fills.size(), 4);
+    QCOMPARE(fill(on | QStyle::State_MouseOver | QStyle::State_Sunken),
+             fill(on | QStyle::State_Sunken));
+    QCOMPARE(fill(QStyle::State_Off | QStyle::State_MouseOver), ground);
+}
+
+void FusionStyleTweaksTest::radioButtonIsACircle()
+{
+    QFETCH(QStyle::State, state);
+    QFETCH(bool, dark);
+    QFETCH(QRgb, line);
+    QFETCH(QRgb, fill);
+    useLook(dark);
+    QImage expected = canvas();
+    QPainter painter(&expected);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QColor(line));
+    painter.setBrush(fill == ground ? QBrush(Qt::NoBrush) : QBrush(QColor(fill)));
+    painter.drawEllipse(QRectF(3.5, 3.5, 13, 13));
+    painter.end();
+    QCOMPARE(primitive(style, QStyle::PE_IndicatorRadioButton, state | QStyle::State_Off),
+             expected);
+    QCOMPARE(expected.pixel(box.topLeft()), ground);
+    QCOMPARE(expected.pixel(box.center()), fill);
+}
+
+void FusionStyleTweaksTest::chosenRadioButtonHasADot()
+{
+    QFETCH(QStyle::State, state);
+    const auto element = QStyle::PE_IndicatorRadioButton;
+    const QImage off = primitive(style, element, state | QStyle::State_Off);
+    const QImage on = primitive(style, element, state | QStyle::State_On);
+    QCOMPARE(on.pixel(box.center()), state & QStyle::State_Enabled ? black : grayLine);
+    QCOMPARE(on.pixel(5, 10), off.pixel(5, 10)); // between circle and dot
+}
+
+void FusionStyleTweaksTest::radioButtonTellsHoveredAndPressed()
+{
+    const QStyle::State on = QStyle::State_Enabled | QStyle::State_Off;
+    const auto fill = [&](QStyle::PrimitiveElement element, QStyle::State state) {
+        return primitive(style, element, on | state).pixel(box.center());
+    };
+    for (const QStyle::State state : {QStyle::State_MouseOver, QStyle::State_Sunken})
+        QCOMPARE(fill(QStyle::PE_IndicatorRadioButton, state),
+                 fill(QStyle::PE_IndicatorCheckBox, state));
+}
+
+void FusionStyleTweaksTest::painterIsLeftAsItWas_data()
+{
+    QTest::addColumn<int>("element");
+    QTest::newRow("check box") << int(QStyle::PE_IndicatorCheckBox);
+    QTest::newRow("radio button") << int(QStyle::PE_IndicatorRadioButton);
+    QTest::newRow("drop line") << int(QStyle::PE_IndicatorItemViewItemDrop);
+}
+
+void FusionStyleTweaksTest::painterIsLeftAsItWas()
+{
+    QFETCH(int, element);
+    QListWidget list;
+    QImage image = canvas();
+    QPainter painter(&image);
+    painter.setPen(Qt::red);
+    painter.setBrush(Qt::green);
+    QStyleOptionButton option;
+    option.rect = box;
+    option.state = QStyle::State_Enabled | QStyle::State_On;
+    style.drawPrimitive(QStyle::PrimitiveElement(element), &option, &painter, &list);
+    QCOMPARE(painter.pen(), QPen(Qt::red));
+    QCOMPARE(painter.brush(), QBrush(Qt::green));
+    QVERIFY(!painter.testRenderHint(QPainter::Antialiasing));
+}
+
+void FusionStyleTweaksTest::dropLineSpansTheWidget_data()
+{
+    QTest::addColumn<QRect>("place");
+    QTest::newRow("on an item") << QRect(40, 12, 60, 15);
+    QTest::newRow("between two items") << QRect(40, 12, 60, 0);
+}
+
+void FusionStyleTweaksTest::dropLineSpansTheWidget()
+{
+    QFETCH(QRect, place);
+    QListWidget list;
+    list.resize(150, 40);
+    QImage image = canvas(200, 40);
+    QPainter painter(&image);
+    QStyleOption option;
+    option.rect = place;
+    option.palette.setColor(QPalette::Text, QColor(10, 200, 30));
+    style.drawPrimitive(QStyle::PE_IndicatorItemViewItemDrop, &option, &painter, &list);
+    painter.end();
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < 150; ++x)
+            QCOMPARE(image.pixel(x, y), y == 12 ? qRgb(10, 200, 30) : ground);
+    }
+    QCOMPARE(image.pixel(160, 12), ground);
+}
+
+void FusionStyleTweaksTest::emptyDropPlaceIsFusions()
+{
+    QListWidget list;
+    list.resize(150, 40);
+    const auto drop = [&list](const QStyle &drawn) {
+        QImage image = canvas(150, 40);
+        QPainter painter(&image);
+        QStyleOption option;
+        option.rect = QRect();
+        drawn.drawPrimitive(QStyle::PE_IndicatorItemViewItemDrop, &option, &painter, &list);
+        return image;
+    };
+    QCOMPARE(drop(style), drop(*fusion));
+    QCOMPARE(drop(style).pixel(100, 0), ground);
+}
+
+void FusionStyleTweaksTest::otherPrimitivesAreFusions()
+{
+    for (const auto element : {QStyle::PE_IndicatorArrowDown, QStyle::PE_PanelButtonCommand,
+                               QStyle::PE_FrameGroupBox, QStyle::PE_FrameFocusRect}) {
+        const QImage expected = primitive(*fusion, element, QStyle::State_Enabled);
+        QCOMPARE(primitive(style, element, QStyle::State_Enabled), expected);
+    }
+}
+
+void FusionStyleTweaksTest::toolBarIsFusionsInTheStandardLook()
+{
+    const QPalette palette = fusion->standardPalette();
+    QCOMPARE(toolBar(style, palette), toolBar(*fusion, palette));
+}
+
+void FusionStyleTweaksTest::toolBarIsHalfAsBrightInTheDarkLook()
+{
+    Style::useDark();
+    const QPalette palette = fusion->standardPalette();
+    QPalette dark = palette;
+    dark.setColor(QPalette::Window, QColor(0x20, 0x20, 0x20));
+    QVERIFY(toolBar(*fusion, dark) != toolBar(*fusion, palette));
+    QCOMPARE(toolBar(style, palette), toolBar(*fusion, dark));
+}
+
+void FusionStyleTweaksTest::headerMarginGrowsByHalf()
+{
+    QCOMPARE(fusion->pixelMetric(QStyle::PM_HeaderMargin), 2);
+    QCOMPARE(style.pixelMetric(QStyle::PM_HeaderMargin), 3);
+}
+
+void FusionStyleTweaksTest::otherMetricsAreFusions()
+{
+    for (int metric = 0; metric <= int(QStyle::PM_TitleBarButtonSize); ++metric) {
+        const auto value = QStyle::PixelMetric(metric);
+        if (value != QStyle::PM_HeaderMargin)
+            QCOMPARE(style.pixelMetric(value), fusion->pixelMetric(value));
+    }
+}
+
+void FusionStyleTweaksTest::comboBoxesOpenAsLists()
+{
+    QStyleOptionComboBox option;
+    QCOMPARE(fusion->styleHint(QStyle::SH_ComboBox_Popup, &option), 1);
+    QCOMPARE(style.styleHint(QStyle::SH_ComboBox_Popup, &option), 0);
+    QCOMPARE(style.styleHint(QStyle::SH_ComboBox_Popup), 0);
+    for (const auto hint :
+         {QStyle::SH_EtchDisabledText, QStyle::SH_Menu_MouseTracking,
+          QStyle::SH_ComboBox_ListMouseTracking, QStyle::SH_ToolBox_SelectedPageTitleBold})
+        QCOMPARE(style.styleHint(hint), fusion->styleHint(hint));
+}
+
+// A menu would lie over the field, with the chosen item where the field is.
+void FusionStyleTweaksTest::comboBoxOpensUnderItsField()
+{
+    QComboBox combo;
+    combo.setStyle(&style);
+    combo.addItems({"Axe", "Bow", "Club"});
+    combo.setCurrentIndex(2);
+    combo.move(50, 200);
+    combo.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&combo));
+    combo.showPopup();
+    QVERIFY(combo.view()->isVisible());
+    QVERIFY(combo.view()->mapToGlobal(QPoint()).y() >= combo.mapToGlobal({0, combo.height()}).y());
+    combo.hidePopup();
+}
+
+void FusionStyleTweaksTest::closeIconIsACrossedSquare()
+{
+    const QIcon icon = style.standardIcon(QStyle::SP_TitleBarCloseButton);
+    QCOMPARE(icon.availableSizes(), QList<QSize>{QSize(128, 128)});
+    QImage expected(128, 128, QImage::Format_ARGB32_Premultiplied);
+    expected.fill(Qt::transparent);
+    QPainter painter(&expected);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(Qt::gray, 8));
+    for (const QLine line :
+         {QLine(20, 20, 108, 20), QLine(108, 20, 108, 108), QLine(20, 108, 108, 108),
+          QLine(20, 20, 20, 108), QLine(20, 20, 108, 108), QLine(20, 108, 108, 20)})
+        painter.drawLine(line);
+    painter.end();
+    const QImage image = icon.pixmap(128, 128).toImage();
+    const QColor gray(Qt::gray);
+    for (const QPoint point : {QPoint(64, 20), QPoint(20, 64), QPoint(108, 64), QPoint(64, 108),
+                               QPoint(64, 64), QPoint(40, 40), QPoint(40, 88), QPoint(88, 40)})
+        QCOMPARE(image.pixelColor(point), gray);
+    for (const QPoint point : {QPoint(0, 0), QPoint(10, 64), QPoint(118, 64), QPoint(64, 40),
+                               QPoint(40, 64), QPoint(88, 64), QPoint(64, 88)})
+        QCOMPARE(image.pixelColor(point).alpha(), 0);
+    QCOMPARE(image.pixelColor(64, 16).rgba(),
+             expected.pixelColor(64, 16).rgba()); // the line's edge
+}
+
+void FusionStyleTweaksTest::closeIconIsDrawnOnce()
+{
+    const auto key = [](const FusionStyleTweaks &asked) {
+        return asked.standardIcon(QStyle::SP_TitleBarCloseButton).pixmap(128, 128).cacheKey();
+    };
+    QCOMPARE(key(style), key(style));
+    QCOMPARE(key(FusionStyleTweaks()), key(style));
+}
+
+void FusionStyleTweaksTest::otherIconsAreFusions()
+{
+    for (const auto icon : {QStyle::SP_MediaPlay, QStyle::SP_MediaPause, QStyle::SP_FileIcon,
+                            QStyle::SP_TitleBarMinButton})
+        QCOMPARE(style.standardIcon(icon).pixmap(16, 16).toImage(),
+                 fusion->standardIcon(icon).pixmap(16, 16).toImage());
+}
+
+QTEST_MAIN(FusionStyleTweaksTest)
+#include "fusion_style_tweaks_test.moc"
