@@ -16,6 +16,8 @@
 
 #include <algorithm>
 
+#include <sys/stat.h>
+
 namespace {
 
 constexpr int chunkMilliseconds = 3;
@@ -135,6 +137,9 @@ void MssInfoTest::driverIsReadyWithFourteenSamples()
         QVERIFY(samples[i] != 0);
         QCOMPARE(std::count(samples.begin(), samples.end(), samples[i]), std::ptrdiff_t(1));
     }
+    constexpr int tellOnly = -1;
+    const SoundEntryPoints library = soundEntryPoints(loadSoundLibrary());
+    QCOMPARE(library.allocateChannels(tellOnly), 14);
 }
 
 void MssInfoTest::playsATuneFromItsBeginningToItsEnd()
@@ -255,6 +260,10 @@ void MssInfoTest::staysClosed_data()
     QTest::newRow("no name: the folder of music itself") << "";
     QTest::newRow("folder") << "folder.mp3";
     QTest::newRow("device") << "/dev/zero";
+    const QString pipe = m_game.filePath("MP3/pipe.mp3");
+    if (!QFile::exists(pipe) && mkfifo(QFile::encodeName(pipe).constData(), 0600) != 0)
+        qFatal("cannot make %s", qPrintable(pipe));
+    QTest::newRow("pipe that nobody writes to") << "pipe.mp3";
     const auto damaged = [this](const char *name, const QByteArray &bytes) {
         QTest::newRow(name) << QFileInfo(write(QString(name) + ".mp3", bytes)).fileName();
     };
