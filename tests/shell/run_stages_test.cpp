@@ -5,12 +5,15 @@
 #include "gamedata/image_cache.h"
 #include "gamedata/ini_file.h"
 #include "gamedata/runtime/dat_file.h"
+#include "shell/fusion_style_tweaks.h"
 #include "shell/mss_info.h"
+#include "shell/style.h"
 #include "tests/support/file_contents.h"
 #include "tests/support/tiny_game.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QEvent>
 #include <QMainWindow>
 #include <QTest>
 #include <QTimer>
@@ -31,6 +34,10 @@ struct Sight
     bool asked = false;
     QByteArray settings;
     bool soundIsReady = false;
+    int polished = 0;
+    int polishedByOtherStyles = 0;
+    QString styleSheet;
+    bool isStandardLook = false;
 };
 
 Sight sight;
@@ -47,6 +54,23 @@ QMainWindow *visibleWindow()
     return nullptr;
 }
 
+// Every widget, the splash screen first, is polished by the style it is shown in.
+class StyleWatch : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Polish && watched->isWidgetType()) {
+            ++sight.polished;
+            if (!qobject_cast<FusionStyleTweaks *>(static_cast<QWidget *>(watched)->style()))
+                ++sight.polishedByOtherStyles;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
 // Changes a setting and the campaign, then leaves by the menu.
 void lookAndLeave(QMainWindow *window)
 {
@@ -55,6 +79,8 @@ void lookAndLeave(QMainWindow *window)
     ini->SetStringVal("Campaign Editor", "Path", "/somewhere");
     EditorData::info.modified = true;
     sight.settings = contents(settingsFile);
+    sight.styleSheet = qApp->styleSheet();
+    sight.isStandardLook = Style::current() == Style::standard();
     sight.soundIsReady = mss && mss->initialized && mss->driver != 0 && mss->stream == 0;
     window->findChild<QAction *>("actionExit")->trigger();
     sight.asked = QApplication::activeModalWidget() != nullptr;
@@ -76,6 +102,7 @@ void startLooking()
     auto *timer = new QTimer(QCoreApplication::instance());
     QObject::connect(timer, &QTimer::timeout, look);
     timer->start(lookInterval);
+    QCoreApplication::instance()->installEventFilter(new StyleWatch(QCoreApplication::instance()));
 }
 
 } // namespace
@@ -90,6 +117,8 @@ private slots:
     void initTestCase();
     void loopEndsWithZero() { QCOMPARE(result, 0); }
     void dashPatternIsKeptBeforeTheLoop();
+    void allWidgetsAreShownInTheProgramsStyle();
+    void standardLookIsUsedWithoutASheet();
     void exitAsksNothingAboutChanges();
     void settingsAreWrittenBehindTheLoopAlone();
     void tableFileIsFreedAtTheEnd();
@@ -115,6 +144,18 @@ void RunStagesTest::dashPatternIsKeptBeforeTheLoop()
 {
     QCOMPARE(sight.pattern.format(), QImage::Format_RGB16);
     QCOMPARE(sight.pattern.size(), QSize(456, 600));
+}
+
+void RunStagesTest::allWidgetsAreShownInTheProgramsStyle()
+{
+    QVERIFY(sight.polished > 1);
+    QCOMPARE(sight.polishedByOtherStyles, 0);
+}
+
+void RunStagesTest::standardLookIsUsedWithoutASheet()
+{
+    QVERIFY(sight.isStandardLook);
+    QCOMPARE(sight.styleSheet, QString());
 }
 
 void RunStagesTest::exitAsksNothingAboutChanges()
