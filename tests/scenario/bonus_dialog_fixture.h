@@ -85,17 +85,11 @@ inline QStringList told(const QTableWidgetItem &item)
             told(item.data(Qt::UserRole)), item.text()};
 }
 
-// The dialog on show until it goes out of scope.
-class OpenDialog
+// The controls of a dialog on show.
+class BonusControls
 {
 public:
-    OpenDialog(ScenarioData &scenario, unsigned player, QTableWidgetItem *item = nullptr)
-        : dialog(nullptr, &scenario, bonusCampaignMap, player, item)
-    {
-        dialog.show();
-        if (!QTest::qWaitForWindowExposed(&dialog))
-            QTest::qFail("The dialog never came.", __FILE__, __LINE__);
-    }
+    explicit BonusControls(BonusDialog &shown) : dialog(shown) {}
 
     template<typename Widget>
     Widget *find(const char *name)
@@ -136,7 +130,7 @@ public:
         QCOMPARE(box->value(), number);
     }
 
-    BonusDialog dialog;
+    BonusDialog &dialog;
 
 private:
     QPushButton *boxButton(QDialogButtonBox::StandardButton which)
@@ -145,8 +139,27 @@ private:
     }
 };
 
+struct OwnBonusDialog
+{
+    BonusDialog ownDialog;
+};
+
+// A dialog on show until it goes out of scope.
+class OpenDialog : private OwnBonusDialog, public BonusControls
+{
+public:
+    OpenDialog(ScenarioData &scenario, unsigned player, QTableWidgetItem *item = nullptr)
+        : OwnBonusDialog{{nullptr, &scenario, bonusCampaignMap, player, item}},
+          BonusControls(ownDialog)
+    {
+        dialog.show();
+        if (!QTest::qWaitForWindowExposed(&dialog))
+            QTest::qFail("The dialog never came.", __FILE__, __LINE__);
+    }
+};
+
 // Each is a box of the page on show and what is picked or typed there: "box=text".
-inline void makeChoices(OpenDialog &open, const QStringList &choices)
+inline void makeChoices(BonusControls &open, const QStringList &choices)
 {
     for (const QString &choice : choices) {
         const QByteArray name = choice.section('=', 0, 0).toLatin1();
