@@ -1,6 +1,5 @@
 #include "scenario/starting_bonus.h"
 
-#include "shell/dialog_look.h"
 #include "tests/scenario/bonus_page.h"
 #include "tests/support/report_recorder.h"
 
@@ -79,7 +78,6 @@ void StartingBonusTest::theTableIsAPlainList()
     QVERIFY(table->horizontalHeader()->isVisible());
     QVERIFY(table->horizontalHeader()->defaultAlignment() & Qt::AlignLeft);
     QVERIFY(table->horizontalHeader()->stretchLastSection());
-    QCOMPARE(table->horizontalHeader()->font(), editorFont());
     QCOMPARE(table->horizontalHeader()->font().pointSize(), 8);
     QCOMPARE(table->selectionBehavior(), QAbstractItemView::SelectItems);
     QCOMPARE(table->selectionMode(), QAbstractItemView::SingleSelection);
