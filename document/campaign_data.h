@@ -82,7 +82,7 @@ public:
 struct CmpHeader
 {
     quint32 version = 0; // of the file format
-    quint8 mapId = 0;    // key of EditorData::campaignInfo; 24 for a campaign without a map
+    quint8 mapId = 0;    // key of EditorData::campaignInfo; without a map 24, or 0 if converted
     QString name;
     QString description;
     bool difficultySelectable = false;
