@@ -103,8 +103,10 @@ void ScenarioPrologue::enableUI()
     ui->hasPrologueCheckbox->setEnabled(true);
 }
 
+// Back to the first story, as a scenario without a map is loaded.
 void ScenarioPrologue::disableUI()
 {
+    index = 0;
     ui->hasPrologueCheckbox->setEnabled(false);
     ui->hasPrologueCheckbox->setChecked(false);
     ui->settingsCheckbox->setChecked(false);
