@@ -1,11 +1,10 @@
 #include "scenario/option_page.h"
 
+#include "scenario/whole_text.h"
 #include "shell/dialog_look.h"
 
 #include <QHeaderView>
-#include <QHelpEvent>
 #include <QPushButton>
-#include <QToolTip>
 
 namespace {
 
@@ -23,7 +22,8 @@ void OptionPage::setUpTable(QTableWidget *table, QPushButton *add, QPushButton *
     m_edit = edit;
     m_remove = remove;
     table->setShowGrid(false);
-    table->setWordWrap(false); // a row has room for one line
+    table->setWordWrap(false);         // a row has room for one line
+    table->setTabKeyNavigation(false); // the Tab key leads on to the buttons
     table->viewport()->installEventFilter(this);
     QHeaderView *rows = table->verticalHeader();
     rows->hide();
@@ -34,6 +34,7 @@ void OptionPage::setUpTable(QTableWidget *table, QPushButton *add, QPushButton *
     columns->setFont(editorFont());
     columns->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     columns->setStretchLastSection(true);
+    columns->setHighlightSections(false); // a head in bold could be cut
     columns->show();
     table->setSelectionMode(QAbstractItemView::SingleSelection);
 
@@ -62,22 +63,10 @@ bool OptionPage::eventFilter(QObject *watched, QEvent *event)
         m_table->horizontalHeader()->setDefaultSectionSize(width);
     }
     if (watched == m_table->viewport() && event->type() == QEvent::ToolTip) {
-        showWholeText(*static_cast<QHelpEvent *>(event));
+        tellWholeItem(m_table, *static_cast<QHelpEvent *>(event));
         return true;
     }
     return QWidget::eventFilter(watched, event);
-}
-
-// Said to be rich, for otherwise a name with markup in it would be taken for that.
-void OptionPage::showWholeText(const QHelpEvent &event)
-{
-    const QModelIndex index = m_table->indexAt(event.pos());
-    const bool cut = index.isValid() &&
-                     m_table->sizeHintForIndex(index).width() > m_table->visualRect(index).width();
-    const QString whole =
-        cut ? QStringLiteral("<qt>%1</qt>").arg(index.data().toString().toHtmlEscaped())
-            : QString();
-    QToolTip::showText(event.globalPos(), whole, m_table->viewport());
 }
 
 void OptionPage::resetTable(int columns)

@@ -14,7 +14,6 @@
 #include <set>
 #include <vector>
 
-class QHelpEvent;
 class QPushButton;
 class ScenarioData;
 
@@ -81,9 +80,6 @@ private slots:
     void itemDoubleclicked(int row, int column);
 
 private:
-    // As a tool tip, of a text that its column cuts.
-    void showWholeText(const QHelpEvent &event);
-
     void disableButtons();
 
     QTableWidget *m_table = nullptr;

@@ -4,7 +4,10 @@
 #include "tests/scenario/crossover_campaign.h"
 #include "tests/scenario/shown_page.h"
 
+#include <QHelpEvent>
 #include <QLabel>
+#include <QStyleOptionComboBox>
+#include <QToolTip>
 #include <QtTest>
 
 namespace {
@@ -12,6 +15,23 @@ namespace {
 constexpr unsigned campaignMap = 3;
 
 using Entries = std::vector<CmpHeroCrossover>;
+
+// As a pointer that rests there.
+void askForToolTip(QWidget *widget, const QPoint &place)
+{
+    QHelpEvent event(QEvent::ToolTip, place, widget->mapToGlobal(place));
+    QCoreApplication::sendEvent(widget, &event);
+}
+
+// Pixels for the text of what is chosen.
+int roomIn(const QComboBox *box)
+{
+    QStyleOptionComboBox option;
+    option.initFrom(box);
+    return box->style()
+        ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, box)
+        .width();
+}
 
 } // namespace
 
@@ -35,11 +55,14 @@ private slots:
     void whatIsNotOfferedShowsAsNoChoice();
     void writesBothItemsOfTheRow();
     void withoutChoicesTheFirstNumbersAreStored();
+    void longNamesHaveRoom();
+    void endlessNamesAreToldWhole();
     void rightClicksDoNothing();
     void buttonsClose_data();
     void buttonsClose();
 
 private:
+    void nameTheFirstMap(const QString &name);
     void open(QTableWidgetItem *item = nullptr);
     void addRows(const Entries &entries);
     QComboBox *sources() { return childOf<QComboBox>(m_dialog.get(), "scenarioCombobox"); }
@@ -185,6 +208,49 @@ void HeroCrossoverDialogTest::withoutChoicesTheFirstNumbersAreStored()
     const auto option = m_table->item(0, 0)->data(Qt::UserRole).value<CmpHeroCrossover>();
     QCOMPARE(int(option.player), 0);
     QCOMPARE(int(option.sourceScenario), 0);
+}
+
+void HeroCrossoverDialogTest::nameTheFirstMap(const QString &name)
+{
+    MapHeader header = heroMap();
+    header.mapName = name;
+    giveMap(m_campaign->scenarios[0], header);
+}
+
+void HeroCrossoverDialogTest::longNamesHaveRoom()
+{
+    nameTheFirstMap("W. W. Wormwood's Merry Menagerie of Wonders, the Third Season");
+    open();
+    const QString text = sources()->currentText();
+    QVERIFY(text.startsWith("0. W. W. Wormwood"));
+    QVERIFY(roomIn(sources()) > sources()->fontMetrics().horizontalAdvance(text));
+    askForToolTip(sources(), sources()->rect().center());
+    QTRY_COMPARE(QToolTip::text(), QString());
+}
+
+void HeroCrossoverDialogTest::endlessNamesAreToldWhole()
+{
+    nameTheFirstMap("<b>Marsh</b> " + QString(500, 'm'));
+    open();
+    QVERIFY(m_dialog->width() < 140 * m_dialog->fontMetrics().averageCharWidth());
+    const QString whole = "<qt>0. &lt;b&gt;Marsh&lt;/b&gt; " + QString(500, 'm') + "</qt>";
+    askForToolTip(sources(), sources()->rect().center());
+    QCOMPARE(QToolTip::text(), whole);
+    sources()->setCurrentIndex(1);
+    askForToolTip(sources(), sources()->rect().center());
+    QTRY_COMPARE(QToolTip::text(), QString());
+    clickOn(sources());
+    QAbstractItemView *list = sources()->view();
+    QTRY_VERIFY(list->isVisible());
+    const auto placeOf = [&](int row) {
+        const QRect place = list->visualRect(sources()->model()->index(row, 0));
+        return place.intersected(list->viewport()->rect()).center();
+    };
+    askForToolTip(list->viewport(), placeOf(0));
+    QCOMPARE(QToolTip::text(), whole);
+    askForToolTip(list->viewport(), placeOf(1));
+    QTRY_COMPARE(QToolTip::text(), QString());
+    sources()->hidePopup();
 }
 
 void HeroCrossoverDialogTest::rightClicksDoNothing()

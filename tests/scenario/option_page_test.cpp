@@ -24,6 +24,8 @@ private slots:
     void buttonsWorkWhenTheyGoDown();
     void aButtonIsUpAfterItsDialog();
     void theKeyboardWorksTheButtons();
+    void theTabKeyLeadsFromTheRowsToTheButtons();
+    void headsStayThinOverASelectedRow();
     void noButtonIsTheDefaultOfADialog();
     void clickingARowAllowsWorkOnIt();
     void nothingIsEditedWithoutASelection();
@@ -122,6 +124,32 @@ void OptionPageTest::theKeyboardWorksTheButtons()
         QVERIFY(dialog.came());
         QTest::keyRelease(shown.page.windowHandle(), Qt::Key_Space);
         QCOMPARE(shown.page.getOptionCount(), 3U);
+    });
+}
+
+void OptionPageTest::theTabKeyLeadsFromTheRowsToTheButtons()
+{
+    onBoth([](auto &shown) {
+        shown.page.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&shown.page));
+        shown.clickRow(0);
+        QCOMPARE(shown.page.focusWidget(), shown.table());
+        for (const char *name : {"addButton", "editButton", "removeButton", "tableWidget"}) {
+            QTest::keyClick(shown.page.windowHandle(), Qt::Key_Tab);
+            QCOMPARE(shown.page.focusWidget()->objectName(), QString(name));
+        }
+    });
+}
+
+void OptionPageTest::headsStayThinOverASelectedRow()
+{
+    onBoth([](auto &shown) {
+        QHeaderView *heads = shown.table()->horizontalHeader();
+        const QImage before = heads->grab().toImage();
+        shown.clickRow(0);
+        QTest::mouseMove(shown.page.windowHandle(), QPoint(1, shown.page.height() - 1));
+        QCOMPARE(shown.table()->selectedItems().size(), 2);
+        QCOMPARE(heads->grab().toImage(), before);
     });
 }
 
