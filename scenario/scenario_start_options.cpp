@@ -3,6 +3,7 @@
 #include "document/campaign_data.h"
 #include "scenario/hero_crossover.h"
 #include "scenario/map_player.h"
+#include "scenario/scenario_host.h"
 #include "scenario/starting_bonus.h"
 #include "scenario/starting_hero_options.h"
 #include "scenario/starting_hero_rules.h"
@@ -36,6 +37,24 @@ bool sameOptions(const CmpScenarioStartOptions &a, const CmpScenarioStartOptions
     }
     return sameRows(a.optionData.value<HeroCrossoverSet>().entries,
                     b.optionData.value<HeroCrossoverSet>().entries);
+}
+
+quint8 buildingOf(const CmpStartingBonus &bonus)
+{
+    return bonus.bonusData.value<BonusBuilding>().buildingId;
+}
+
+// What sameOptions passes over: which player gets the bonuses, and which building one builds.
+bool sameDetails(const CmpScenarioStartOptions &a, const CmpScenarioStartOptions &b)
+{
+    const auto first = a.optionData.value<StartingBonusSet>();
+    const auto second = b.optionData.value<StartingBonusSet>();
+    const auto same = [](const CmpStartingBonus &x, const CmpStartingBonus &y) {
+        return buildingOf(x) == buildingOf(y);
+    };
+    return first.player == second.player &&
+           std::equal(first.bonuses.begin(), first.bonuses.end(), second.bonuses.begin(),
+                      second.bonuses.end(), same);
 }
 
 template<typename Set, typename Editor>
@@ -269,6 +288,11 @@ bool ScenarioStartOptions::saveScenarioInfo()
         return false;
     const CmpScenarioStartOptions options{type, rowsOfKind(type)};
     const bool changed = !scenario->startOptions || !sameOptions(*scenario->startOptions, options);
+    // Not part of the answer, but no reason to close the document without a question.
+    if (!changed && !sameDetails(*scenario->startOptions, options)) {
+        if (ScenarioHost *host = hostOf(this))
+            host->setChanged();
+    }
     scenario->startOptions = std::make_shared<CmpScenarioStartOptions>(options);
     return changed;
 }
