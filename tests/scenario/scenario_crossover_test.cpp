@@ -38,6 +38,7 @@ private slots:
     void disablingTakesTheListsChecksOff();
     void enablingLeavesAllChecks();
     void clicksOnItemsCount();
+    void theTabKeyGoesFromTopToBottom();
 
 private:
     std::unique_ptr<ScenarioFixture> fixture;
@@ -322,6 +323,23 @@ void ScenarioCrossoverTest::clicksOnItemsCount()
     QVERIFY(open.tab.saveScenarioInfo());
     QVERIFY(scenario.crossover.creatures.testBit(8));
     QVERIFY(scenario.crossover.artifacts.testBit(4));
+}
+
+void ScenarioCrossoverTest::theTabKeyGoesFromTopToBottom()
+{
+    CrossoverTab open;
+    open.tab.initInfo(&scenario);
+    open.tab.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&open.tab));
+    open.find<QWidget>("experienceComboBox")->setFocus();
+    for (const char *name :
+         {"primarySkillsCombobox", "secSkillsCombobox", "spellsCombobox", "artifactsCombobox",
+          "allButton", "noneButton", creatureList, "allButtonArts", "noneButtonArts", artifactList,
+          "experienceComboBox"}) {
+        QTest::keyClick(open.tab.windowHandle(), Qt::Key_Tab);
+        QVERIFY(open.tab.focusWidget());
+        QCOMPARE(open.tab.focusWidget()->objectName(), QString(name));
+    }
 }
 
 QTEST_MAIN(ScenarioCrossoverTest)
