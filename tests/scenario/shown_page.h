@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QHeaderView>
+#include <QLayout>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTest>
@@ -162,6 +163,10 @@ void verifyTableLook(ShownPage<Page> &shown, const QStringList &headers, int par
 {
     QTableWidget *table = shown.table();
     QCOMPARE(table->columnCount(), 2);
+    QWidget *buttons = childOf<QWidget>(&shown.page, "layoutWidget");
+    QCOMPARE(buttons->layout()->objectName(), QString("horizontalLayout"));
+    for (const char *name : {"addButton", "editButton", "removeButton"})
+        QCOMPARE(shown.button(name)->parentWidget(), buttons);
     for (int column = 0; column < 2; ++column)
         QCOMPARE(table->horizontalHeaderItem(column)->text(), headers[column]);
     QVERIFY(!table->showGrid());

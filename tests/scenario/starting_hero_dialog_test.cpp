@@ -63,6 +63,8 @@ private slots:
     void writesBothItemsOfTheRow();
     void withoutAPlayerTheFirstHeroIsStored();
     void listingIsTraced();
+    void openingListsForTheLastPlayerAndThenForTheOneOnShow_data();
+    void openingListsForTheLastPlayerAndThenForTheOneOnShow();
     void rightClicksDoNothing();
     void buttonsClose_data();
     void buttonsClose();
@@ -318,6 +320,25 @@ void StartingHeroDialogTest::listingIsTraced()
     m_dialog->updateHeroCombobox(2, false);
     QCOMPARE(TraceRecorder::messages(),
              QStringList({"CURRENT PLAYER: 1", "ADD:  true", "CURRENT PLAYER: 2", "ADD:  false"}));
+}
+
+void StartingHeroDialogTest::openingListsForTheLastPlayerAndThenForTheOneOnShow_data()
+{
+    QTest::addColumn<int>("edited");
+    QTest::addColumn<QStringList>("traces");
+    const QStringList orange{"CURRENT PLAYER: 4", "ADD:  false"};
+    QTest::newRow("new row") << -1 << orange + QStringList{"CURRENT PLAYER: 0", "ADD:  false"};
+    QTest::newRow("a row of the second player")
+        << 0 << orange + QStringList{"CURRENT PLAYER: 1", "ADD:  true"};
+}
+
+void StartingHeroDialogTest::openingListsForTheLastPlayerAndThenForTheOneOnShow()
+{
+    QFETCH(int, edited);
+    addRows({{1, 9}});
+    const TraceRecorder traces;
+    open({}, m_table->item(edited, 0));
+    QTEST(TraceRecorder::messages(), "traces");
 }
 
 void StartingHeroDialogTest::rightClicksDoNothing()
