@@ -1,30 +1,23 @@
-// The program's style, pixel by pixel where it draws itself, and the same as Fusion elsewhere.
+// The program's style but for its indicators: what it draws and answers itself, and that all else
+// is Fusion's.
 #include "shell/editor_resources.h"
 #include "shell/fusion_style_tweaks.h"
 #include "shell/style.h"
-#include "tests/support/message_boxes.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QIcon>
 #include <QListWidget>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOptionToolBar>
-#include <QSvgRenderer>
 #include <QTest>
-
-Q_DECLARE_METATYPE(QStyle::State)
 
 namespace {
 
 constexpr QRgb ground = qRgb(120, 40, 90); // in none of the colours drawn
 constexpr QRect box(3, 3, 14, 14);
-constexpr QRgb white = qRgb(255, 255, 255);
-constexpr QRgb black = qRgb(0, 0, 0);
-constexpr QRgb grayLine = qRgb(190, 190, 190);
 
 QImage canvas(int width = 20, int height = 20)
 {
@@ -33,49 +26,15 @@ QImage canvas(int width = 20, int height = 20)
     return image;
 }
 
-QImage primitive(const QStyle &style, QStyle::PrimitiveElement element, QStyle::State state,
-                 const QRect &rect = box)
+QImage primitive(const QStyle &style, QStyle::PrimitiveElement element)
 {
     QImage image = canvas();
     QPainter painter(&image);
     QStyleOptionButton option;
-    option.rect = rect;
-    option.state = state;
+    option.rect = box;
+    option.state = QStyle::State_Enabled;
     style.drawPrimitive(element, &option, &painter);
     return image;
-}
-
-void addStates()
-{
-    QTest::addColumn<QStyle::State>("state");
-    QTest::newRow("disabled") << QStyle::State(QStyle::State_None);
-    QTest::newRow("enabled") << QStyle::State(QStyle::State_Enabled);
-    QTest::newRow("hovered") << (QStyle::State_Enabled | QStyle::State_MouseOver);
-    QTest::newRow("pressed") << (QStyle::State_Enabled | QStyle::State_Sunken);
-}
-
-// The colours of the two looks where they are told.
-void addLooks()
-{
-    QTest::addColumn<QStyle::State>("state");
-    QTest::addColumn<bool>("dark");
-    QTest::addColumn<QRgb>("line");
-    QTest::addColumn<QRgb>("fill");
-    const QStyle::State off = QStyle::State_None;
-    const QStyle::State on = QStyle::State_Enabled;
-    QTest::newRow("standard, enabled") << on << false << black << white;
-    QTest::newRow("standard, disabled") << off << false << grayLine << ground;
-    const QRgb darkLine = QColor(Qt::lightGray).rgb();
-    QTest::newRow("dark, enabled") << on << true << darkLine << white;
-    QTest::newRow("dark, disabled") << off << true << darkLine << ground;
-}
-
-void useLook(bool dark)
-{
-    if (dark)
-        Style::useDark();
-    else
-        Style::useStandard();
 }
 
 QImage toolBar(const QStyle &style, const QPalette &palette)
@@ -101,17 +60,6 @@ private slots:
     void initTestCase() { initEditorResources(); }
     void cleanup() { Style::useStandard(); }
     void elementsHaveTheirNumbers();
-    void checkBoxIsARectangle_data() { addLooks(); }
-    void checkBoxIsARectangle();
-    void checkMarkLiesOnTheBox_data() { addLooks(); }
-    void checkMarkLiesOnTheBox();
-    void disabledCheckedBoxIsGrayWithoutFill();
-    void checkBoxTellsHoveredAndPressed();
-    void radioButtonIsACircle_data() { addLooks(); }
-    void radioButtonIsACircle();
-    void chosenRadioButtonHasADot_data() { addStates(); }
-    void chosenRadioButtonHasADot();
-    void radioButtonTellsHoveredAndPressed();
     void painterIsLeftAsItWas_data();
     void painterIsLeftAsItWas();
     void dropLineSpansTheWidget_data();
@@ -144,119 +92,7 @@ void FusionStyleTweaksTest::elementsHaveTheirNumbers()
     QCOMPARE(int(QStyle::SP_TitleBarCloseButton), 3);
 }
 
-void FusionStyleTweaksTest::checkBoxIsARectangle()
-{
-    QFETCH(QStyle::State, state);
-    QFETCH(bool, dark);
-    QFETCH(QRgb, line);
-    QFETCH(QRgb, fill);
-    useLook(dark);
-    const QImage image = primitive(style, QStyle::PE_IndicatorCheckBox, state | QStyle::State_Off);
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const bool inside = box.contains(x, y, true);
-            const QRgb expected = inside ? fill : box.contains(x, y) ? line : ground;
-            QCOMPARE(QColor(image.pixel(x, y)).name(), QColor(expected).name());
-        }
-    }
-}
-
-void FusionStyleTweaksTest::checkMarkLiesOnTheBox()
-{
-    QFETCH(QStyle::State, state);
-    QFETCH(bool, dark);
-    useLook(dark);
-    QImage expected = primitive(style, QStyle::PE_IndicatorCheckBox, state | QStyle::State_Off);
-    QPainter painter(&expected);
-    QSvgRenderer mark(state & QStyle::State_Enabled ? QStringLiteral(":/icons/checkmark_black.svg")
-                                                    : QStringLiteral(":/icons/checkmark_gray.svg"));
-    const QImage empty = expected;
-    mark.render(&painter, QRectF(box));
-    painter.end();
-    QVERIFY(expected != empty);
-    QCOMPARE(primitive(style, QStyle::PE_IndicatorCheckBox, state | QStyle::State_On), expected);
-}
-
 // The whole way, from the widget on.
-void FusionStyleTweaksTest::disabledCheckedBoxIsGrayWithoutFill()
-{
-    QCheckBox checkBox;
-    checkBox.setStyle(&style);
-    QPalette palette = checkBox.palette();
-    palette.setColor(QPalette::Window, QColor(ground));
-    checkBox.setPalette(palette);
-    checkBox.setChecked(true);
-    checkBox.setEnabled(false);
-    const QImage image = checkBox.grab().toImage();
-    int grounds = 0;
-    int marks = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const QColor colour = image.pixelColor(x, y);
-            grounds += colour.rgb() == ground;
-            marks += colour == QColor(0x8C, 0x8C, 0x8C);
-            QVERIFY2(colour.rgb() != white && colour.rgb() != black, qPrintable(colour.name()));
-        }
-    }
-    QVERIFY(marks > 0);
-    QVERIFY(grounds > 60); // of the 144 within the box's lines, where a fill would lie
-}
-
-void FusionStyleTweaksTest::checkBoxTellsHoveredAndPressed()
-{
-    const QStyle::State on = QStyle::State_Enabled | QStyle::State_Off;
-    const auto fill = [&](QStyle::State state) {
-        return primitive(style, QStyle::PE_IndicatorCheckBox, state).pixel(box.center());
-    };
-    const QSet<QRgb> fills{fill(on), fill(on | QStyle::State_MouseOver),
-                           fill(on | QStyle::State_Sunken), ground};
-    QCOMPARE(fills.size(), 4);
-    QCOMPARE(fill(on | QStyle::State_MouseOver | QStyle::State_Sunken),
-             fill(on | QStyle::State_Sunken));
-    QCOMPARE(fill(QStyle::State_Off | QStyle::State_MouseOver), ground);
-}
-
-void FusionStyleTweaksTest::radioButtonIsACircle()
-{
-    QFETCH(QStyle::State, state);
-    QFETCH(bool, dark);
-    QFETCH(QRgb, line);
-    QFETCH(QRgb, fill);
-    useLook(dark);
-    QImage expected = canvas();
-    QPainter painter(&expected);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QColor(line));
-    painter.setBrush(fill == ground ? QBrush(Qt::NoBrush) : QBrush(QColor(fill)));
-    painter.drawEllipse(QRectF(3.5, 3.5, 13, 13));
-    painter.end();
-    QCOMPARE(primitive(style, QStyle::PE_IndicatorRadioButton, state | QStyle::State_Off),
-             expected);
-    QCOMPARE(expected.pixel(box.topLeft()), ground);
-    QCOMPARE(expected.pixel(box.center()), fill);
-}
-
-void FusionStyleTweaksTest::chosenRadioButtonHasADot()
-{
-    QFETCH(QStyle::State, state);
-    const auto element = QStyle::PE_IndicatorRadioButton;
-    const QImage off = primitive(style, element, state | QStyle::State_Off);
-    const QImage on = primitive(style, element, state | QStyle::State_On);
-    QCOMPARE(on.pixel(box.center()), state & QStyle::State_Enabled ? black : grayLine);
-    QCOMPARE(on.pixel(5, 10), off.pixel(5, 10)); // between circle and dot
-}
-
-void FusionStyleTweaksTest::radioButtonTellsHoveredAndPressed()
-{
-    const QStyle::State on = QStyle::State_Enabled | QStyle::State_Off;
-    const auto fill = [&](QStyle::PrimitiveElement element, QStyle::State state) {
-        return primitive(style, element, on | state).pixel(box.center());
-    };
-    for (const QStyle::State state : {QStyle::State_MouseOver, QStyle::State_Sunken})
-        QCOMPARE(fill(QStyle::PE_IndicatorRadioButton, state),
-                 fill(QStyle::PE_IndicatorCheckBox, state));
-}
-
 void FusionStyleTweaksTest::painterIsLeftAsItWas_data()
 {
     QTest::addColumn<int>("element");
@@ -328,8 +164,8 @@ void FusionStyleTweaksTest::otherPrimitivesAreFusions()
 {
     for (const auto element : {QStyle::PE_IndicatorArrowDown, QStyle::PE_PanelButtonCommand,
                                QStyle::PE_FrameGroupBox, QStyle::PE_FrameFocusRect}) {
-        const QImage expected = primitive(*fusion, element, QStyle::State_Enabled);
-        QCOMPARE(primitive(style, element, QStyle::State_Enabled), expected);
+        const QImage expected = primitive(*fusion, element);
+        QCOMPARE(primitive(style, element), expected);
     }
 }
 
