@@ -5,7 +5,7 @@
 #include "document/campaign_data.h"
 #include "gamedata/editor_data.h"
 #include "gamedata/game_dir.h"
-#include "scenario/choice_box.h"
+#include "shell/choice_box.h"
 #include "shell/dialog_look.h"
 #include "shell/mss_info.h"
 #include "ui_EditCampaign.h"

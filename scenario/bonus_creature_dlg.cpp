@@ -2,9 +2,9 @@
 
 #include "gamedata/editor_data.h"
 #include "scenario/bonus_type.h"
-#include "scenario/choice_box.h"
 #include "scenario/naming.h"
 #include "scenario/option_page.h"
+#include "shell/choice_box.h"
 #include "ui_bonus_creature_dlg.h"
 
 BonusCreatureDlg::BonusCreatureDlg(QWidget *parent)

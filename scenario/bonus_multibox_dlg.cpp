@@ -3,10 +3,10 @@
 #include "document/start_options.h"
 #include "gamedata/editor_data.h"
 #include "scenario/bonus_type.h"
-#include "scenario/choice_box.h"
 #include "scenario/map_player.h"
 #include "scenario/naming.h"
 #include "scenario/option_page.h"
+#include "shell/choice_box.h"
 #include "ui_bonus_multibox_dlg.h"
 
 #include <algorithm>

@@ -1,11 +1,11 @@
 #include "scenario/hero_crossover_dialog.h"
 
 #include "gamedata/editor_data.h"
-#include "scenario/choice_box.h"
 #include "scenario/map_player.h"
 #include "scenario/naming.h"
 #include "scenario/option_dialog.h"
 #include "scenario/option_page.h"
+#include "shell/choice_box.h"
 #include "ui_HeroCrossoverDialog.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "scenario/option_dialog.h"
 
-#include "scenario/choice_box.h"
 #include "scenario/whole_text.h"
+#include "shell/choice_box.h"
 #include "shell/dialog_look.h"
 
 #include <QDialog>

@@ -2,8 +2,8 @@
 
 #include "document/campaign_data.h"
 #include "gamedata/editor_data.h"
-#include "scenario/choice_box.h"
 #include "scenario/scenario_host.h"
+#include "shell/choice_box.h"
 #include "ui_scenarioGeneral.h"
 
 #include <array>

@@ -1,8 +1,8 @@
 #include "scenario/scenario_prologue.h"
 
 #include "gamedata/editor_data.h"
-#include "scenario/choice_box.h"
 #include "scenario/scenario_host.h"
+#include "shell/choice_box.h"
 #include "ui_ScenarioPrologue.h"
 
 #include <algorithm>

@@ -65,8 +65,7 @@ void ScenarioPrologue::numberBtnPressed()
         return;
     if (saveScenarioInfo(index))
         setChanged();
-    initInfo(scenario, prologuePage, ix, false);
-    pressed->blockSignals(false);
+    initInfo(scenario, prologuePage, ix, false); // releases the button
 }
 
 // Behind a number, the box of that story goes along with the one for all of them: it decides

@@ -91,8 +91,8 @@ void ScenarioPrologue::musicSelectionChanged()
     pausePlayer();
 }
 
-// By the selection, not by the current item, which the keyboard moves only after the selection has
-// told of itself.
+// By the selection: the current item may still be the old one when the selection changes, and is
+// there even where no track is chosen.
 void ScenarioPrologue::showMusicName()
 {
     ui->selectedMusicLabel->setText(trackName(ui->musicListWidget->selectedItems().value(0)));

@@ -4,9 +4,9 @@
 #include "scenario/bonus_dialog.h"
 #include "scenario/bonus_text.h"
 #include "scenario/bonus_type.h"
-#include "scenario/choice_box.h"
 #include "scenario/naming.h"
 #include "scenario/starting_bonus_rules.h"
+#include "shell/choice_box.h"
 #include "ui_StartingBonus.h"
 
 #include <QDebug>

@@ -1,12 +1,12 @@
 #include "scenario/starting_hero_dialog.h"
 
 #include "gamedata/editor_data.h"
-#include "scenario/choice_box.h"
 #include "scenario/map_player.h"
 #include "scenario/naming.h"
 #include "scenario/option_dialog.h"
 #include "scenario/option_page.h"
 #include "scenario/starting_hero_rules.h"
+#include "shell/choice_box.h"
 #include "ui_StartingHeroDialog.h"
 
 #include <QDebug>
