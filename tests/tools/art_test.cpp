@@ -337,5 +337,5 @@ void ArtTest::splashesHaveTheAskedSize()
     QCOMPARE(qAlpha(art::paintAppIcon(32).pixel(0, 0)), 0);
 }
 
-QTEST_APPLESS_MAIN(ArtTest)
+QTEST_MAIN(ArtTest)
 #include "art_test.moc"
