@@ -156,6 +156,7 @@ private slots:
 
     void namesThePicturesThatAreThere();
     void hasThePicturesOfEveryWindow();
+    void showsEveryForm();
     void pictureHasTheWindowsSize_data() { addScenes(); }
     void pictureHasTheWindowsSize();
     void namesEveryControl_data() { addScenes(); }
@@ -202,6 +203,34 @@ void ManualTest::hasThePicturesOfEveryWindow()
         const QStringList there =
             QFileInfo(pictureFile(language, "x")).dir().entryList(QDir::Files);
         QCOMPARE(sorted({there.begin(), there.end()}), sorted(expected));
+    }
+}
+
+// So that a new dialog or page asks for a picture of its own.
+void ManualTest::showsEveryForm()
+{
+    const QString neverOnShow = QStringLiteral("ScenarioBrowser");
+    QSet<QString> shown;
+    for (const ManualScene &scene : manualScenes()) {
+        const ManualWindow opened = scene.open();
+        QList<QWidget *> widgets = opened.window->findChildren<QWidget *>();
+        widgets.append(opened.window.get());
+        opened.window->show();
+        for (const QWidget *widget : qAsConst(widgets)) {
+            if (widget->isVisible())
+                shown.insert(widget->objectName());
+        }
+    }
+    const QDir forms(QStringLiteral(CMPED_SOURCE_DIR "/forms"));
+    const QStringList files = forms.entryList({QStringLiteral("*.ui")}, QDir::Files);
+    QVERIFY(files.size() > 10);
+    for (const QString &name : files) {
+        QFile file(forms.filePath(name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QSet<QString> form = foundIn(QString::fromUtf8(file.readAll()),
+                                           R"x((?m)^ <widget class="\w+" name="(\w+)")x");
+        QCOMPARE(form.size(), 1);
+        QVERIFY2(shown.contains(*form.begin()) || *form.begin() == neverOnShow, qPrintable(name));
     }
 }
 
