@@ -195,9 +195,9 @@ void CliDataTest::listGoesByPrecedence()
     QCOMPARE(lines.last(), QByteArray());
     QVERIFY(lines.contains("PriSkill.txt\tE3bitmap.lod\t44"));
     QVERIFY(lines.contains("k1s2c7.pcx\tE3bitmap.lod\t1380"));
-    // Sixteen text tables, 48 ready-made pictures, nine masks, five backgrounds, two others, and
-    // one table in the other archive.
-    QCOMPARE(lines.size() - 1, 16 + 48 + 9 + 5 + 2 + 1);
+    // Sixteen text tables, 48 ready-made pictures, nine masks, five backgrounds, three stills of
+    // movies, two others, and one table in the other archive.
+    QCOMPARE(lines.size() - 1, 16 + 48 + 9 + 5 + 3 + 2 + 1);
 }
 
 void CliDataTest::extractTakesTheFirstArchive()
