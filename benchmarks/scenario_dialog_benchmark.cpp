@@ -1,8 +1,12 @@
 // The scenario dialog with as many scenarios as the editor takes, against filling a plain list
 // widget of that length: opening it, and adding, moving and deleting one.
+//
+// Usage: scenario_dialog_benchmark GAMEFOLDER
 #include "benchmarks/stopwatch.h"
 #include "document/campaign_data.h"
 #include "gamedata/editor_data.h"
+#include "gamedata/game_dir.h"
+#include "gamedata/game_loading.h"
 #include "scenario/scenario_info.h"
 #include "shell/editor_resources.h"
 
@@ -28,6 +32,7 @@ CampaignData longCampaign(bool chained)
         ScenarioData &scenario = campaign.scenarios[i];
         scenario.mapFileName = QStringLiteral("chapter %1.e3m").arg(i);
         scenario.mapHeader = std::make_shared<MapHeader>();
+        scenario.startOptions = std::make_shared<CmpScenarioStartOptions>();
         if (chained && i > 0)
             scenario.prerequisites.setBit(int(i) - 8);
     }
@@ -100,9 +105,13 @@ int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
+    if (argc != 2) {
+        std::fprintf(stderr, "Usage: scenario_dialog_benchmark GAMEFOLDER\n");
+        return 1;
+    }
+    setGameRoot(QString::fromLocal8Bit(argv[1]));
     initEditorResources();
-    EditorData::nArtifacts = 160;
-    EditorData::nCreatures = 186;
+    loadGame();
     const double filling = stopwatch::best(measureMilliseconds, fillPlainList);
     const bool empty = measure("without prerequisites", false, filling);
     const bool chained = measure("a chain", true, filling);

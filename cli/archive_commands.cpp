@@ -1,10 +1,10 @@
 #include "cli/archive_commands.h"
 
-#include "cli/game_loading.h"
 #include "cli/picture_file.h"
 #include "cli/record_picture.h"
 #include "cli/standard_output.h"
 #include "gamedata/editor_data.h"
+#include "gamedata/game_loading.h"
 #include "gamedata/report.h"
 #include "gamedata/safe_save.h"
 

@@ -1,10 +1,10 @@
 #include "cli/campaign_commands.h"
 
 #include "cli/campaign_json.h"
-#include "cli/game_loading.h"
 #include "cli/json_writer.h"
 #include "cli/standard_output.h"
 #include "document/campaign_data.h"
+#include "gamedata/game_loading.h"
 #include "gamedata/report.h"
 
 #include <QFile>

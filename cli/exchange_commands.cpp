@@ -1,10 +1,10 @@
 #include "cli/exchange_commands.h"
 
 #include "cli/campaign_commands.h"
-#include "cli/game_loading.h"
 #include "document/campaign_data.h"
 #include "document/map_exchange.h"
 #include "document/text_exchange.h"
+#include "gamedata/game_loading.h"
 #include "gamedata/report.h"
 
 #include <QFile>

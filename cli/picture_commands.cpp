@@ -1,11 +1,11 @@
 #include "cli/picture_commands.h"
 
 #include "cli/campaign_commands.h"
-#include "cli/game_loading.h"
 #include "cli/picture_file.h"
 #include "document/campaign_data.h"
 #include "gamedata/campaign_picture.h"
 #include "gamedata/editor_data.h"
+#include "gamedata/game_loading.h"
 #include "gamedata/region_image.h"
 #include "gamedata/report.h"
 

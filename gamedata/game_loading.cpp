@@ -1,4 +1,4 @@
-#include "cli/game_loading.h"
+#include "gamedata/game_loading.h"
 
 #include "gamedata/editor_data.h"
 #include "gamedata/game_files.h"

@@ -1,4 +1,4 @@
-// Reading the game's data at the start of a command: what the editor does before its window.
+// Reading the game's data without a window: what the editor does before its first one.
 #pragma once
 
 // Reads settings, table file and archives of the game's folder. A file the editor can't do
