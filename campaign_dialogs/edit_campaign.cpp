@@ -40,12 +40,12 @@ void keepWithin(QTextEdit *edit, int length)
     edit->moveCursor(QTextCursor::End);
 }
 
-// The control turns line ends, hard spaces and the like into its own, so its text is compared with
-// what it showed at first.
-bool storeText(const QTextEdit *edit, const QString &loaded, QString &text)
+// The control turns line ends, hard spaces and the like into its own, so the text it was given
+// stands as long as it shows what it showed at first.
+bool storeText(const QTextEdit *edit, const QString &given, const QString &shown, QString &text)
 {
     const QString edited = edit->toPlainText();
-    if (edited == loaded || edited == text)
+    if (edited == text || (edited == shown && text == given))
         return false;
     text = edited;
     return true;
@@ -195,8 +195,9 @@ void EditCampaign::descrEditChanged()
 
 bool EditCampaign::saveTexts(CampaignData *target)
 {
-    bool changed = storeText(ui->nameEdit, loadedName, target->name);
-    changed |= storeText(ui->descriptionEdit, loadedDescription, target->description);
+    bool changed = storeText(ui->nameEdit, campaign->name, loadedName, target->name);
+    changed |= storeText(ui->descriptionEdit, campaign->description, loadedDescription,
+                         target->description);
     return changed;
 }
 

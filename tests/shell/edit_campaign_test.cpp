@@ -33,6 +33,7 @@ private slots:
     void everyControlIsStored_data();
     void everyControlIsStored();
     void whatIsPutBackIsNoChange();
+    void anotherRecordTakesWhatIsShown();
     void rightButtonDoesNothing_data();
     void rightButtonDoesNothing();
     void buttonsCloseTheDialog();
@@ -345,6 +346,27 @@ void EditCampaignTest::whatIsPutBackIsNoChange()
     dialog.saveInfo(&campaign);
     QVERIFY(!EditorData::info.modified);
     QCOMPARE(campaign.name, QString("Ember\r\nRoad"));
+}
+
+// Each value is held against the record that is saved to, not against the one that was shown.
+void EditCampaignTest::anotherRecordTakesWhatIsShown()
+{
+    CampaignData shown = campaignOnBackground(1, "m");
+    shown.name = "Ember Road";
+    shown.description = "Three steps";
+    shown.difficultySelectable = true;
+    CampaignData other = campaignOnBackground(0, "m");
+    other.name = "Old";
+    other.description = "Older";
+    other.musicId = 2;
+    EditCampaign dialog(nullptr, &shown);
+    dialog.saveInfo(&other);
+    QVERIFY(EditorData::info.modified);
+    QCOMPARE(other.name, QString("Ember Road"));
+    QCOMPARE(other.description, QString("Three steps"));
+    QCOMPARE(int(other.musicId), 1);
+    QVERIFY(other.difficultySelectable);
+    QCOMPARE(other.customValue, 1);
 }
 
 void EditCampaignTest::rightButtonDoesNothing_data()
