@@ -14,6 +14,8 @@ private slots:
     void formOffersBackgroundsToACampaignOnAMap();
     void formOffersMapsToACampaignOnABackground();
     void nothingIsCut();
+    void sizeFollowsTheContents_data();
+    void sizeFollowsTheContents();
     void previewAndCountFollowTheSelection();
     void previewOfABackgroundFollowsTheSelection();
     void warnsWhereScenariosWouldBeLost_data();
@@ -107,6 +109,23 @@ void ConvertCampaignTest::nothingIsCut()
         QVERIFY2(label->width() >= label->sizeHint().width(), qPrintable(label->objectName()));
         QVERIFY2(label->height() >= label->sizeHint().height(), qPrintable(label->objectName()));
     }
+}
+
+void ConvertCampaignTest::sizeFollowsTheContents_data()
+{
+    QTest::addColumn<bool>("onMap");
+    QTest::newRow("on a map") << true;
+    QTest::newRow("on a background") << false;
+}
+
+void ConvertCampaignTest::sizeFollowsTheContents()
+{
+    QFETCH(bool, onMap);
+    CampaignData campaign = onMap ? campaignOnMap(24, "m-m") : campaignOnBackground(0, "mmmm");
+    ConvertCampaign dialog(nullptr, &campaign);
+    const QSize size = dialog.size();
+    dialog.adjustSize();
+    QCOMPARE(size, dialog.size());
 }
 
 void ConvertCampaignTest::previewAndCountFollowTheSelection()

@@ -19,6 +19,7 @@ private slots:
 
     void buttonPlaysForEverAndPauses();
     void anotherChoiceStopsTheMusic();
+    void anotherChoiceInSilenceLeavesTheButton();
     void closingStopsTheMusic();
     void closingInSilenceTellsNothing();
     void missingFileIsSilent();
@@ -130,6 +131,18 @@ void EditCampaignMusicTest::anotherChoiceStopsTheMusic()
     compareIcon(dialog, QStyle::SP_MediaPause);
     QTRY_VERIFY(hears(secondMark));
     QVERIFY(!hears(firstMark));
+}
+
+void EditCampaignMusicTest::anotherChoiceInSilenceLeavesTheButton()
+{
+    EditCampaign dialog(nullptr, &campaign);
+    QVERIFY(show(dialog));
+    expect("MSS - PAUSE MUSIC");
+    control<QComboBox>(dialog, "musicCombobox")->setCurrentIndex(1);
+    compareIcon(dialog, QStyle::SP_MediaPlay);
+    expect("MSS - START MUSIC STRIC");
+    clickOn(button(dialog));
+    QTRY_VERIFY(hears(secondMark));
 }
 
 void EditCampaignMusicTest::closingStopsTheMusic()
