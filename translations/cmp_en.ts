@@ -306,10 +306,6 @@ File subversion = %1
 Current subversion = %2</translation>
     </message>
     <message>
-        <source>Incorrect or damaged file.</source>
-        <translation>Incorrect or damaged file.</translation>
-    </message>
-    <message>
         <source>Campaign Editor cannot be launched because Ravn.dat was not found. 
 Ravn.dat must be in Eldmark root folder.</source>
         <translation>Campaign Editor cannot be launched because Ravn.dat was not found. 

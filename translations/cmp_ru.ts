@@ -306,10 +306,6 @@ Current subversion = %2</source>
 Текущая подверсия = %2</translation>
     </message>
     <message>
-        <source>Incorrect or damaged file.</source>
-        <translation>Неверный или повреждённый файл.</translation>
-    </message>
-    <message>
         <source>Campaign Editor cannot be launched because Ravn.dat was not found. 
 Ravn.dat must be in Eldmark root folder.</source>
         <translation>Редактор кампаний не может быть запущен: файл Ravn.dat не найден. 
