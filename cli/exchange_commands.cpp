@@ -64,7 +64,7 @@ ExitStatus runExportMaps(const QStringList &arguments)
     if (const ExitStatus status = readCampaignFile(arguments[0], campaign))
         return status;
     ExitStatus status = exitDone;
-    exportMapsTo(folderOf(arguments[1]), campaign,
+    exportMapsTo(folderOf(arguments[1]), campaign, arguments[0],
                  [&](const QString &text) { status = failed(text); });
     return status;
 }

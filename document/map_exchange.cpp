@@ -8,6 +8,10 @@
 #include <QDebug>
 #include <QFile>
 
+#include <cerrno>
+
+#include <sys/stat.h>
+
 namespace {
 
 constexpr int mapRefused = -1;
@@ -18,18 +22,31 @@ QString pathOf(const QString &folder, const QString &name)
     return QStringLiteral("%1/%2").arg(folder, name);
 }
 
+// By the system's word and not by the paths: links and names of other case lead to the same file.
+bool isSameFile(const QString &path, const QString &other)
+{
+    struct stat one = {};
+    struct stat two = {};
+    return stat(QFile::encodeName(path).constData(), &one) == 0 &&
+           stat(QFile::encodeName(other).constData(), &two) == 0 && one.st_dev == two.st_dev &&
+           one.st_ino == two.st_ino;
+}
+
 } // namespace
 
 // A scenario that names a map and has none of its bytes, as one read from a torn file, leaves
 // alone what the author has under that name.
-void exportMapsTo(const QString &folder, const CampaignData &campaign, const TellMapFailure &tell)
+void exportMapsTo(const QString &folder, const CampaignData &campaign, const QString &campaignFile,
+                  const TellMapFailure &tell)
 {
     for (const ScenarioData &scenario : campaign.scenarios) {
         const QString name = bareMapFileName(scenario.mapFileName);
         if (name.isEmpty() || scenario.compressedMap.isEmpty())
             continue;
         const QString path = pathOf(folder, name);
-        const SaveResult result = saveFileSafely(path, {scenario.compressedMap});
+        const SaveResult result = isSameFile(path, campaignFile)
+                                      ? SaveResult{false, qt_error_string(EEXIST)}
+                                      : saveFileSafely(path, {scenario.compressedMap});
         if (!result.ok) {
             tell(mainWindowText(QT_TRANSLATE_NOOP("MainWindow", "Cannot write file %1:\n%2."))
                      .arg(path, result.error));

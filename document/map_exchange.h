@@ -14,9 +14,11 @@ class CampaignData;
 // Tells what went wrong with one map, in the words of the main window.
 using TellMapFailure = std::function<void(const QString &text)>;
 
-// Writes the maps' bytes as they were imported, over files that are there. One that can't be
-// written is told, and the next one follows.
-void exportMapsTo(const QString &folder, const CampaignData &campaign, const TellMapFailure &tell);
+// Writes the maps' bytes as they were imported, over files that are there, but never over
+// `campaignFile`, the file of the campaign itself (empty if it has none): a stranger's campaign may
+// name a map so. One that can't be written is told, and the next one follows.
+void exportMapsTo(const QString &folder, const CampaignData &campaign, const QString &campaignFile,
+                  const TellMapFailure &tell);
 
 struct MapRefresh
 {

@@ -70,7 +70,7 @@ void MainWindow::exportMaps()
 {
     const WaitCursor cursor;
     // Authors know this command as one that says nothing.
-    exportMapsTo(documentFolder(), campaign, [](const QString &) {});
+    exportMapsTo(documentFolder(), campaign, currentFile, [](const QString &) {});
 }
 
 void MainWindow::refreshMaps()

@@ -26,6 +26,7 @@ private slots:
     void sampleCampaignsKeepTheirTexts();
     void exportMapsWritesEveryMap();
     void exportMapsTellsWhatItCannotWriteAndGoesOn();
+    void exportMapsLeavesTheCampaignsFileAlone();
     void refreshMapsWritesTheCampaign();
     void refreshMapsWritesNothingUnlessAllMapsWereRead_data();
     void refreshMapsWritesNothingUnlessAllMapsWereRead();
@@ -217,6 +218,15 @@ void CliExchangeTest::exportMapsTellsWhatItCannotWriteAndGoesOn()
     QVERIFY(QDir(path("maps")).mkdir("one.e3m"));
     fails({"export-maps", path("home.e3c"), path("maps")},
           "Error: Cannot write file " + path("maps/one.e3m") + ":\nIs a directory.\n");
+    QCOMPARE(contents(path("maps/three.e3m")), mapNamed("Stonegate"));
+}
+
+void CliExchangeTest::exportMapsLeavesTheCampaignsFileAlone()
+{
+    write("maps/one.e3m", homeCampaign());
+    fails({"export-maps", path("maps/one.e3m"), path("maps")},
+          "Error: Cannot write file " + path("maps/one.e3m") + ":\nFile exists.\n");
+    QCOMPARE(contents(path("maps/one.e3m")), homeCampaign());
     QCOMPARE(contents(path("maps/three.e3m")), mapNamed("Stonegate"));
 }
 

@@ -24,6 +24,8 @@ private slots:
     void exportStaysInItsFolder();
     void exportPassesNamesOverThatAreNone_data();
     void exportPassesNamesOverThatAreNone();
+    void exportLeavesTheCampaignsFileAlone_data();
+    void exportLeavesTheCampaignsFileAlone();
     void exportTellsWhatItCannotWriteAndGoesOn();
     void exportOntoAFullDiskKeepsTheOldFile();
     void refreshTakesEveryMap();
@@ -48,10 +50,11 @@ private:
         return QDir(path(folder)).entryList(QDir::Files | QDir::Hidden, QDir::Name);
     }
 
-    QStringList exportMaps(const CampaignData &campaign) const
+    QStringList exportMaps(const CampaignData &campaign, const QString &campaignFile = {}) const
     {
         QStringList told;
-        exportMapsTo(path("maps"), campaign, [&](const QString &text) { told << text; });
+        exportMapsTo(path("maps"), campaign, campaignFile,
+                     [&](const QString &text) { told << text; });
         return told;
     }
     MapRefresh refresh(CampaignData &campaign)
@@ -179,6 +182,36 @@ void MapExchangeTest::exportPassesNamesOverThatAreNone()
     campaign.scenarios.pop_back();
     QVERIFY(refresh(campaign).complete);
     QCOMPARE(m_told, QStringList());
+}
+
+void MapExchangeTest::exportLeavesTheCampaignsFileAlone_data()
+{
+    QTest::addColumn<QString>("campaignFile");
+    QTest::addColumn<QString>("mapName");
+    QTest::newRow("its name") << "maps/home.e3c"
+                              << "home.e3c";
+    QTest::newRow("its name in a folder") << "maps/home.e3c"
+                                          << "..\\home.e3c";
+    QTest::newRow("path the long way") << "maps/../maps//home.e3c"
+                                       << "home.e3c";
+    QTest::newRow("campaign opened by a link") << "link.e3c"
+                                               << "home.e3c";
+    QTest::newRow("map named like a link") << "maps/home.e3c"
+                                           << "link.e3m";
+}
+
+void MapExchangeTest::exportLeavesTheCampaignsFileAlone()
+{
+    QFETCH(QString, campaignFile);
+    QFETCH(QString, mapName);
+    writeMap("home.e3c", "the campaign");
+    QVERIFY(QFile::link(inner("home.e3c"), path("link.e3c")));
+    QVERIFY(QFile::link(inner("home.e3c"), inner("link.e3m")));
+    QCOMPARE(exportMaps(campaignOf({mapName, "next.e3m"}), path(campaignFile)),
+             QStringList({"Cannot write file " + inner(QString(mapName).remove("..\\")) +
+                          ":\nFile exists."}));
+    QCOMPARE(contents(inner("home.e3c")), QByteArray("the campaign"));
+    QCOMPARE(contents(inner("next.e3m")), QByteArray("bytes of next.e3m"));
 }
 
 void MapExchangeTest::exportTellsWhatItCannotWriteAndGoesOn()

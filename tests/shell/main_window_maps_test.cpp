@@ -15,6 +15,7 @@ private slots:
 
     void exportMapsWritesBesideTheCampaign();
     void exportMapsSaysNothing();
+    void exportMapsLeavesTheCampaignsFileAlone();
     void exportMapsOfAnUntitledCampaignUsesTheCurrentFolder();
     void refreshMapsReadsBesideTheCampaign();
     void refreshMapsEndsAtAMissingFile_data();
@@ -49,6 +50,19 @@ void MainWindowMapsTest::exportMapsSaysNothing()
     QVERIFY(QDir(folder->path()).mkdir("one.e3m"));
     trigger("actionExport_Scenario_Maps");
     QVERIFY(!QApplication::activeModalWidget());
+    QCOMPARE(contents(path("three.e3m")), mapNamed("Stonegate"));
+}
+
+void MainWindowMapsTest::exportMapsLeavesTheCampaignsFileAlone()
+{
+    CampaignData campaign = campaignWithMaps();
+    campaign.scenarios[0].mapFileName = "home.e3c";
+    save(campaign);
+    load();
+    const QByteArray before = contents(path("home.e3c"));
+    trigger("actionExport_Scenario_Maps");
+    QVERIFY(!QApplication::activeModalWidget());
+    QCOMPARE(contents(path("home.e3c")), before);
     QCOMPARE(contents(path("three.e3m")), mapNamed("Stonegate"));
 }
 
