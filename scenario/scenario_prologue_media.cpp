@@ -84,10 +84,12 @@ bool ScenarioPrologue::storeMusic(quint8 &musicIndex) const
     return changed;
 }
 
+// A selection that the user takes back leaves the track current, to be stored and listened to.
 void ScenarioPrologue::musicSelectionChanged()
 {
     musicChosen = true;
-    showMusicName();
+    if (!ui->musicListWidget->selectedItems().isEmpty())
+        showMusicName();
     pausePlayer();
 }
 

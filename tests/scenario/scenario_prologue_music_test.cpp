@@ -28,6 +28,8 @@ private slots:
     void cleanupTestCase();
     void nameFollowsTheMouse();
     void nameFollowsTheKeyboard();
+    void trackStaysCurrentWithoutItsSelection();
+    void loadingAStoryPausesNothing();
     void playAndPauseAreTraced();
     void buttonWorksWhenItGoesDown();
     void anotherChoicePauses();
@@ -101,6 +103,34 @@ void ScenarioPrologueMusicTest::nameFollowsTheKeyboard()
     QCOMPARE(open.musicName(), QString("Music 1"));
     QTest::keyClick(open.music(), Qt::Key_Home);
     QCOMPARE(open.musicName(), QString("Music 0"));
+}
+
+void ScenarioPrologueMusicTest::trackStaysCurrentWithoutItsSelection()
+{
+    CampaignData campaign = storyCampaign(3);
+    StoriesTab open(campaign, prologueTab);
+    open.chooseMusic(1);
+    QListWidgetItem *track = open.music()->item(1);
+    QWidget *viewport = open.music()->viewport();
+    const QPoint middle = open.music()->visualItemRect(track).center();
+    QTest::mouseClick(open.dialog.windowHandle(), Qt::LeftButton, Qt::ControlModifier,
+                      viewport->mapTo(&open.dialog, middle));
+    QVERIFY(open.music()->selectedItems().isEmpty());
+    QCOMPARE(open.musicName(), QString("Music 1"));
+    QVERIFY(open.save());
+    QCOMPARE(open.stored().first(), QString("1 1 one"));
+}
+
+void ScenarioPrologueMusicTest::loadingAStoryPausesNothing()
+{
+    CampaignData campaign = storyCampaign(3);
+    StoriesTab open(campaign, prologueTab);
+    const TraceRecorder traces;
+    open.press(1);
+    open.press(2);
+    open.page()->updatePrologue(3);
+    QCOMPARE(open.musicName(), QString("Music 2"));
+    QCOMPARE(TraceRecorder::messages(), QStringList());
 }
 
 void ScenarioPrologueMusicTest::playAndPauseAreTraced()
