@@ -29,6 +29,7 @@ private slots:
     void currentNumberChangesNothing();
     void currentNumberIsLeftBlocked();
     void blockedNumberIsFreedWithItsStory();
+    void storyBegunAnewIsEmpty();
     void boxesAreTraced();
 
 private:
@@ -287,6 +288,17 @@ void ScenarioPrologueBoxesTest::blockedNumberIsFreedWithItsStory()
     QCOMPARE(open.shown(), QString("1 2 one"));
     open.press(1);
     QCOMPARE(open.shown(), QString("2 1 two"));
+}
+
+// The video stays as it was chosen; its still doesn't.
+void ScenarioPrologueBoxesTest::storyBegunAnewIsEmpty()
+{
+    CampaignData campaign = storyCampaign(3);
+    StoriesTab open(campaign, prologueTab);
+    open.page()->enableUIpartial();
+    QCOMPARE(open.shown(), QString("1 0 "));
+    QCOMPARE(open.musicName(), QString("Music 0"));
+    QCOMPARE(open.stillColour(), tiny::movieColour(0));
 }
 
 void ScenarioPrologueBoxesTest::boxesAreTraced()

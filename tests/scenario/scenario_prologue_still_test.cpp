@@ -9,6 +9,7 @@ class ScenarioPrologueStillTest : public QObject
 private slots:
     void initTestCase();
     void init();
+    void newPageShowsTheFirstStill();
     void stillFollowsTheVideo();
     void stillFillsItsPlace();
     void stillThatCannotBeReadIsNotShown();
@@ -28,6 +29,15 @@ void ScenarioPrologueStillTest::initTestCase()
 void ScenarioPrologueStillTest::init()
 {
     m_fixture->reset();
+}
+
+void ScenarioPrologueStillTest::newPageShowsTheFirstStill()
+{
+    const ScenarioPrologue page(nullptr);
+    const auto *still = page.findChild<QLabel *>("prologueImage");
+    const QImage shown = still->pixmap(Qt::ReturnByValue).toImage();
+    QVERIFY(!shown.isNull());
+    QCOMPARE(shown.pixelColor(shown.rect().center()), tiny::movieColour(0));
 }
 
 void ScenarioPrologueStillTest::stillFollowsTheVideo()

@@ -99,6 +99,8 @@ void ScenarioPrologueTest::controlsHaveTypesAndTexts_data()
     QTest::newRow("messageLabel") << QByteArray("QLabel") << "Message:";
     QTest::newRow("textEdit") << QByteArray("QTextEdit") << "";
     QTest::newRow("groupBox") << QByteArray("QGroupBox") << "";
+    QTest::newRow("line1") << QByteArray("QFrame") << "";
+    QTest::newRow("line2") << QByteArray("QFrame") << "";
 }
 
 void ScenarioPrologueTest::controlsHaveTypesAndTexts()
