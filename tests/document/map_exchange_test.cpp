@@ -32,6 +32,7 @@ private slots:
     void refreshReadsMapsOfScenariosThatHaveNone();
     void refreshOfNoMapsIsComplete();
     void refreshStaysInItsFolder();
+    void refreshTracesEveryPath();
     void refreshEndsAtAMissingFile();
     void refreshGoesOnBehindARefusedMap();
     void refreshEndsAtAnUnreadableFile_data();
@@ -283,6 +284,15 @@ void MapExchangeTest::refreshStaysInItsFolder()
     QVERIFY(refresh(campaign).complete);
     QCOMPARE(mapNames(campaign), QStringList({"Ironmoors"}));
     QCOMPARE(campaign.scenarios[0].mapFileName, QString("out.e3m"));
+}
+
+void MapExchangeTest::refreshTracesEveryPath()
+{
+    CampaignData campaign = campaignOf({"one.e3m", "", "a/two.e3m"});
+    writeMap("one.e3m", mapNamed("Ironmoors"));
+    for (const char *name : {"one.e3m", "two.e3m"})
+        QTest::ignoreMessage(QtDebugMsg, qPrintable('"' + inner(name) + '"'));
+    QVERIFY(!refresh(campaign).complete);
 }
 
 void MapExchangeTest::refreshEndsAtAMissingFile()
