@@ -46,7 +46,7 @@ ExitStatus runImportTexts(const QStringList &arguments)
     CampaignData campaign;
     if (const ExitStatus status = readCampaignFile(arguments[0], campaign))
         return status;
-    const QString path = arguments[1];
+    const QString &path = arguments[1];
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return cannotRead(path, file.errorString());

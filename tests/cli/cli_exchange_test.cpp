@@ -52,7 +52,7 @@ private:
     void runs(const QStringList &words) const;
     void fails(const QStringList &words, const QString &error) const;
 
-    const CliGame m_game;
+    CliGame m_game;
     std::unique_ptr<QTemporaryDir> m_folder; // "home.e3c" is in it, and a folder "maps"
 };
 

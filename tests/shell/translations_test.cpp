@@ -130,16 +130,17 @@ void TranslationsTest::messagesOfTheLowerRoomsAreTranslated_data()
 {
     QTest::addColumn<QString>("context");
     QTest::addColumn<QString>("text");
+    const char *const noTableFile = "Campaign Editor cannot be launched because Ravn.dat was not "
+                                    "found. \nRavn.dat must be in Eldmark root folder.";
+    const char *const noSettings =
+        "Eldmark Campaign Editor cannot be launched because Ravn_settings.ini was not found. "
+        "\nRavn_settings.ini must be in Eldmark root folder.";
     for (const char *text :
          {"Error", "Can't find %1 file in lod file", "Can't open file %1",
           "Unable to generate image", "Cannot write file %1:\n%2.",
           "Invalid campaign file version!\n\nFile version = %1\nCurrent version = %2",
-          "Unsupported version!\n\nFile subversion = %1\nCurrent subversion = %2",
-          "Campaign Editor cannot be launched because Ravn.dat was not found. \nRavn.dat must be "
-          "in Eldmark root folder.",
-          "Eldmark Campaign Editor cannot be launched because Ravn_settings.ini was not found. "
-          "\nRavn_settings.ini must be in Eldmark root folder.",
-          "Failed to open the sound driver."})
+          "Unsupported version!\n\nFile subversion = %1\nCurrent subversion = %2", noTableFile,
+          noSettings, "Failed to open the sound driver."})
         QTest::newRow(text) << "MainWindow" << text;
     for (const char *text : {"Incorrect or damaged file.", "Basic", "Advanced", "Expert"})
         QTest::newRow(text) << "QObject" << text;
