@@ -30,6 +30,9 @@ private slots:
     void currentNumberIsLeftBlocked();
     void blockedNumberIsFreedWithItsStory();
     void storyBegunAnewIsEmpty();
+    void boxTellsOfTheFirstStory_data();
+    void boxTellsOfTheFirstStory();
+    void scenarioWithAMapMayHaveAStory();
     void boxesAreTraced();
 
 private:
@@ -299,6 +302,38 @@ void ScenarioPrologueBoxesTest::storyBegunAnewIsEmpty()
     QCOMPARE(open.shown(), QString("1 0 "));
     QCOMPARE(open.musicName(), QString("Music 0"));
     QCOMPARE(open.stillColour(), tiny::movieColour(0));
+}
+
+void ScenarioPrologueBoxesTest::boxTellsOfTheFirstStory_data()
+{
+    QTest::addColumn<int>("missing");
+    QTest::addColumn<bool>("hasStory");
+    QTest::addColumn<bool>("setUp");
+    QTest::newRow("another") << 2 << true << true;
+    QTest::newRow("the first") << 0 << false << true;
+    QTest::newRow("the one on show") << 1 << true << false;
+}
+
+void ScenarioPrologueBoxesTest::boxTellsOfTheFirstStory()
+{
+    QFETCH(int, missing);
+    CampaignData campaign = storyCampaign(3);
+    campaign.scenarios[0].prologues[std::size_t(missing)].reset();
+    StoriesTab open(campaign, prologueTab);
+    open.press(1);
+    QTEST(open.hasStory()->isChecked(), "hasStory");
+    QTEST(open.setUp()->isChecked(), "setUp");
+}
+
+void ScenarioPrologueBoxesTest::scenarioWithAMapMayHaveAStory()
+{
+    CampaignData campaign = storyCampaign(3);
+    campaign.scenarios[0] = ScenarioData();
+    StoriesTab open(campaign, prologueTab);
+    QVERIFY(!open.hasStory()->isEnabled());
+    open.select(1);
+    QVERIFY(open.hasStory()->isEnabled());
+    QVERIFY(!open.hasStory()->isChecked());
 }
 
 void ScenarioPrologueBoxesTest::boxesAreTraced()

@@ -30,6 +30,9 @@ private slots:
     void nameFollowsTheKeyboard();
     void trackStaysCurrentWithoutItsSelection();
     void loadingAStoryPausesNothing();
+    void newPageCanPlay();
+    void leavingTheTabPauses_data();
+    void leavingTheTabPauses();
     void playAndPauseAreTraced();
     void buttonWorksWhenItGoesDown();
     void anotherChoicePauses();
@@ -131,6 +134,32 @@ void ScenarioPrologueMusicTest::loadingAStoryPausesNothing()
     open.page()->updatePrologue(3);
     QCOMPARE(open.musicName(), QString("Music 2"));
     QCOMPARE(TraceRecorder::messages(), QStringList());
+}
+
+void ScenarioPrologueMusicTest::newPageCanPlay()
+{
+    const ScenarioPrologue page(nullptr);
+    const QIcon shown = page.findChild<QPushButton *>("playMusicBtn")->icon();
+    const QIcon wanted = page.style()->standardIcon(QStyle::SP_MediaPlay);
+    QVERIFY(!shown.isNull());
+    QCOMPARE(shown.pixmap(16, 16).toImage(), wanted.pixmap(16, 16).toImage());
+}
+
+void ScenarioPrologueMusicTest::leavingTheTabPauses_data()
+{
+    addBothTabs();
+}
+
+void ScenarioPrologueMusicTest::leavingTheTabPauses()
+{
+    QFETCH(int, tab);
+    CampaignData campaign = storyCampaign(3);
+    StoriesTab open(campaign, tab);
+    clickOn(open.find<QPushButton>("playMusicBtn"));
+    QTRY_VERIFY(!m_sound->sound().isEmpty());
+    open.showTab(generalTab);
+    QVERIFY(showsIcon(open, QStyle::SP_MediaPlay));
+    QTRY_VERIFY(m_sound->endsSilent(silence));
 }
 
 void ScenarioPrologueMusicTest::playAndPauseAreTraced()
