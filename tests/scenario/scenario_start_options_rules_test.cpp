@@ -123,7 +123,7 @@ void ScenarioStartOptionsRulesTest::prerequisitesAllowCrossovers_data()
     QBitArray first(3);
     first.setBit(0);
     QBitArray last(200);
-    last.setBit(199);
+    last.fill(true, 199, 200);
     QTest::newRow("no bits at all") << QBitArray() << false;
     QTest::newRow("none") << QBitArray(3) << false;
     QTest::newRow("the first") << first << true;
