@@ -46,11 +46,12 @@ void BonusPagesTest::formsHaveTheirTexts()
         const auto *found = page.findChild<QLabel *>(label);
         return found ? found->text() : QString();
     };
-    const bonus_multibox_dlg boxes(nullptr);
+    QWidget parent; // which a page's filter belongs to
+    const bonus_multibox_dlg boxes(&parent);
     QCOMPARE(textOf(boxes, "recipientLabel"), QString("Recipient:"));
     QCOMPARE(textOf(boxes, "item1label"), QString("Item 1:"));
     QCOMPARE(textOf(boxes, "item2label"), QString("Item 2:"));
-    const bonus_value_dlg values(nullptr);
+    const bonus_value_dlg values(&parent);
     QCOMPARE(textOf(values, "datatypeLabel"), QString("Datatype:"));
     for (const char *label : {"valueLabel1", "valueLabel2", "valueLabel3", "valueLabel4"})
         QCOMPARE(textOf(values, label), QString("Value1:"));
