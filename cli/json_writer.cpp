@@ -5,6 +5,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <charconv>
+
 namespace {
 
 // Qt escapes; of its list of one text only the text is taken.
@@ -57,7 +59,7 @@ void JsonWriter::null()
 
 void JsonWriter::end()
 {
-    m_output.write("\n");
+    m_output.write('\n');
 }
 
 void JsonWriter::begin(char bracket)
@@ -73,7 +75,16 @@ void JsonWriter::close(char bracket)
     if (!m_empty)
         newLine();
     m_empty = false;
-    m_output.write(QByteArray(1, bracket));
+    m_output.write(bracket);
+}
+
+// Lists of a stranger's file have millions of numbers: none of them costs an allocation.
+void JsonWriter::integer(qint64 number)
+{
+    std::array<char, 24> digits;
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    separate();
+    m_output.write(digits.data(), int(end - digits.data()));
 }
 
 void JsonWriter::raw(const QByteArray &token)
@@ -86,7 +97,7 @@ void JsonWriter::separate()
 {
     if (!m_afterKey && m_depth > 0) {
         if (!m_empty)
-            m_output.write(",");
+            m_output.write(',');
         newLine();
     }
     m_afterKey = false;
@@ -95,5 +106,6 @@ void JsonWriter::separate()
 
 void JsonWriter::newLine()
 {
-    m_output.write('\n' + QByteArray(2 * m_depth, ' '));
+    m_output.write('\n');
+    m_output.write(' ', 2 * m_depth);
 }

@@ -35,7 +35,7 @@ public:
         if constexpr (std::is_same_v<Number, bool>)
             raw(number ? "true" : "false");
         else
-            raw(QByteArray::number(qint64(number)));
+            integer(qint64(number));
     }
     template<typename T>
     void value(const std::vector<T> &items)
@@ -69,6 +69,7 @@ private:
     }
     void begin(char bracket);
     void close(char bracket);
+    void integer(qint64 number);
     void raw(const QByteArray &token); // one whole value
     void separate();                   // what stands in front of a value or a key
     void newLine();

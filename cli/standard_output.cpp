@@ -9,9 +9,25 @@ constexpr int bufferSize = 64 * 1024;
 
 } // namespace
 
-void StandardOutput::write(const QByteArray &bytes)
+StandardOutput::StandardOutput()
 {
-    m_buffer += bytes;
+    m_buffer.reserve(2 * bufferSize);
+}
+
+void StandardOutput::write(const char *bytes, int size)
+{
+    m_buffer.append(bytes, size);
+    flushIfFull();
+}
+
+void StandardOutput::write(char byte, int count)
+{
+    m_buffer.append(count, byte);
+    flushIfFull();
+}
+
+void StandardOutput::flushIfFull()
+{
     if (m_buffer.size() >= bufferSize)
         flush();
 }
@@ -35,5 +51,5 @@ void StandardOutput::flush()
         else if (errno != EINTR)
             m_error = errno;
     }
-    m_buffer.clear();
+    m_buffer.resize(0); // keeps its room
 }

@@ -8,11 +8,17 @@
 class StandardOutput
 {
 public:
-    void write(const QByteArray &bytes);
+    StandardOutput();
+
+    void write(const char *bytes, int size);
+    void write(const QByteArray &bytes) { write(bytes.constData(), bytes.size()); }
+    // The same byte several times.
+    void write(char byte, int count = 1);
     // Writes what is left; to be called at the end. Tells a failure of any write so far.
     ExitStatus finish();
 
 private:
+    void flushIfFull();
     void flush();
 
     QByteArray m_buffer;
