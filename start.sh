@@ -35,14 +35,16 @@ wait_for_window() {
     die "The editor's window did not come up within a minute."
 }
 
-# Takes pictures until two in a row are the same, so that a window half drawn is never kept.
+# Takes pictures until two in a row are the same, so that a window half drawn is never kept. One
+# that the window manager is about to frame can't be taken yet.
 take_picture() {
     local before='' now
     for _ in $(seq 50); do
-        import -frame -window "$window" "$picture"
-        now=$(import -frame -window "$window" rgb:- | sha256sum)
-        [ "$now" = "$before" ] && return 0
-        before=$now
+        if import -frame -window "$window" "$picture" 2>/dev/null &&
+            now=$(import -frame -window "$window" rgb:- 2>/dev/null | sha256sum); then
+            [ "$now" = "$before" ] && return 0
+            before=$now
+        fi
         sleep 0.2
     done
     die "The window never stood still."
