@@ -24,10 +24,11 @@ make_sample_game() {
     touch "$game/.complete"
 }
 
-# Leaves the window's id in `window`; gives up after a minute or when the editor has ended.
+# Leaves the window's id in `window`, never the splash picture's; gives up after a minute or when the editor has ended.
 wait_for_window() {
     for _ in $(seq 300); do
-        window=$(xdotool search --onlyvisible --pid "$editor" --name '.e3c' 2>/dev/null | head -n 1) || true
+        window=$(xdotool search --all --onlyvisible --pid "$editor" --name '\.e3c' 2>/dev/null |
+            head -n 1) || true
         [ -n "$window" ] && return 0
         kill -0 "$editor" 2>/dev/null || die "The editor ended before its window came up; its log is in $log."
         sleep 0.2
