@@ -24,7 +24,8 @@ make_sample_game() {
     touch "$game/.complete"
 }
 
-# Leaves the window's id in `window`, never the splash picture's; gives up after a minute or when the editor has ended.
+# Leaves the window's id in `window`, never the splash picture's; gives up after a minute or when
+# the editor has ended.
 wait_for_window() {
     for _ in $(seq 300); do
         window=$(xdotool search --all --onlyvisible --pid "$editor" --name '\.e3c' 2>/dev/null |
