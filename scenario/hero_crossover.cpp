@@ -8,8 +8,7 @@
 
 namespace {
 
-constexpr quint32 crossoverOption = 2; // the kind of start option that this page edits
-constexpr int checkedRowHeight = 18;   // pixels, until the row is saved or validated
+constexpr int checkedRowHeight = 18; // pixels, until the row is saved or validated
 
 } // namespace
 
@@ -33,7 +32,7 @@ void HeroCrossover::initInfo(CampaignData *newCampaign, ScenarioData *newScenari
     campaignMap = newCampaignMap;
     resetTable(2);
     if (scenario->startOptions) {
-        if (scenario->startOptions->optionType == crossoverOption)
+        if (scenario->startOptions->optionType == CrossoverOption)
             fillRows(scenario->startOptions->optionData.value<HeroCrossoverSet>());
         updateUI();
     }

@@ -8,12 +8,6 @@
 
 #include <QDebug>
 
-namespace {
-
-constexpr quint32 heroOption = 3; // the kind of start option that this page edits
-
-} // namespace
-
 StartingHeroOptions::StartingHeroOptions(QWidget *parent)
     : OptionPage(parent), ui(std::make_unique<Ui_StartingHeroOptions>())
 {
@@ -31,7 +25,7 @@ void StartingHeroOptions::initInfo(ScenarioInfo *newInfo, ScenarioData *newScena
     scenario = newScenario;
     campaignMap = newCampaignMap;
     resetTable(2);
-    if (scenario->startOptions && scenario->startOptions->optionType == heroOption) {
+    if (scenario->startOptions && scenario->startOptions->optionType == HeroOption) {
         const auto set = scenario->startOptions->optionData.value<StartingHeroSet>();
         for (const StartingHero &option : set.entries) {
             const int row = appendRow()->row();
