@@ -55,7 +55,7 @@ take_picture() {
 run_on_virtual_display() {
     local number
     number_file=$(mktemp)
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$number_file" 2>/dev/null &
+    Xvfb -noreset -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$number_file" 2>/dev/null &
     xvfb=$!
     trap 'kill ${editor:-} ${manager:-} $xvfb 2>/dev/null || true; rm -f "$number_file"' EXIT
     for _ in $(seq 100); do

@@ -40,7 +40,7 @@ until_true() {
 }
 
 start_display() {
-    Xvfb -displayfd 3 -screen 0 1024x900x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
+    Xvfb -noreset -displayfd 3 -screen 0 1024x900x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
     xvfb=$!
     until_true grep -q '^[0-9]' "$work/display" || fail "no virtual display"
     DISPLAY=:$(head -n 1 "$work/display")
