@@ -5,6 +5,7 @@
 #include "document/campaign_data.h"
 #include "document/prerequisites.h"
 #include "gamedata/editor_data.h"
+#include "shell/dialog_look.h"
 #include "ui_ConvertCampaign.h"
 
 #include <QMessageBox>
@@ -36,6 +37,7 @@ ConvertCampaign::ConvertCampaign(QWidget *parent, CampaignData *newCampaign)
     // The warning's line keeps its room while it is empty.
     ui->warningLabel->setMinimumHeight(ui->warningLabel->sizeHint().height());
     adjustSize();
+    fixDialog(this);
     connect(ui->listWidget, &QListWidget::itemSelectionChanged, this,
             &ConvertCampaign::changeSelection);
     connect(ui->buttonBox, &QDialogButtonBox::accepted, this, &QDialog::accept);

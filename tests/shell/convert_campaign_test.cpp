@@ -124,8 +124,14 @@ void ConvertCampaignTest::sizeFollowsTheContents()
     CampaignData campaign = onMap ? campaignOnMap(24, "m-m") : campaignOnBackground(0, "mmmm");
     ConvertCampaign dialog(nullptr, &campaign);
     const QSize size = dialog.size();
+    QCOMPARE(dialog.minimumSize(), size);
+    QCOMPARE(dialog.maximumSize(), size);
+    QVERIFY(!(dialog.windowFlags() & Qt::WindowContextHelpButtonHint));
+    dialog.setMinimumSize(0, 0);
+    dialog.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    dialog.resize(521, 472);
     dialog.adjustSize();
-    QCOMPARE(size, dialog.size());
+    QCOMPARE(dialog.size(), size);
 }
 
 void ConvertCampaignTest::previewAndCountFollowTheSelection()
@@ -343,7 +349,10 @@ void ConvertCampaignTest::buttonsCloseTheDialog()
     CampaignData campaign = campaignOnBackground(0, "m");
     ConvertCampaign dialog(nullptr, &campaign);
     {
-        const NextDialog answer([&](QWidget *) { press(dialog, QDialogButtonBox::Ok); });
+        const NextDialog answer([&](QWidget *) {
+            QCOMPARE(dialog.windowModality(), Qt::ApplicationModal);
+            press(dialog, QDialogButtonBox::Ok);
+        });
         QCOMPARE(dialog.exec(), int(QDialog::Accepted));
     }
     ConvertCampaign other(nullptr, &campaign);
