@@ -20,11 +20,6 @@ private slots:
     void formIsAsLaidOut();
     void showsTheCampaign();
     void musicIsSortedByName();
-    void backgroundsInOrderOfTheirNumbers();
-    void mapsWithRoomAndTheFirstOf24_data();
-    void mapsWithRoomAndTheFirstOf24();
-    void previewOfABackgroundIsBare();
-    void previewOfAMapHasItsRegions();
     void textsAreCutAtTheirLimit_data();
     void textsAreCutAtTheirLimit();
     void typingPastTheLimitMovesToTheEnd();
@@ -43,8 +38,6 @@ private:
 };
 
 namespace {
-
-constexpr int previewHeight = 337;
 
 using Edit = std::function<void(EditCampaign &)>;
 using Check = std::function<bool(const CampaignData &)>;
@@ -149,58 +142,6 @@ void EditCampaignTest::musicIsSortedByName()
     const EditCampaign dialog(nullptr, &campaign);
     QCOMPARE(rowsIn(music(dialog)), QStringList({"Alpenhorn", "March", "Zither"}));
     QCOMPARE(idsIn(music(dialog)), QVector<int>({1, 2, 0}));
-}
-
-void EditCampaignTest::backgroundsInOrderOfTheirNumbers()
-{
-    CampaignData campaign = campaignOnBackground(1, "m");
-    const EditCampaign dialog(nullptr, &campaign);
-    QCOMPARE(rowsIn(ground(dialog)), QStringList({"plainone.pcx", "plaintwo.pcx"}));
-    QCOMPARE(idsIn(ground(dialog)), QVector<int>({0, 1}));
-    QCOMPARE(ground(dialog)->currentIndex(), 1);
-}
-
-void EditCampaignTest::mapsWithRoomAndTheFirstOf24_data()
-{
-    QTest::addColumn<QString>("maps");
-    QTest::addColumn<QVector<int>>("offered");
-    QTest::newRow("no scenario with a map") << "---" << QVector<int>{24, 3, 5, 6, 7, 30};
-    QTest::newRow("one") << "-m-" << QVector<int>{24, 3, 6, 7};
-    QTest::newRow("two") << "m-m" << QVector<int>{24, 3};
-    QTest::newRow("three") << "mmm" << QVector<int>{24};
-}
-
-void EditCampaignTest::mapsWithRoomAndTheFirstOf24()
-{
-    QFETCH(QString, maps);
-    QFETCH(QVector<int>, offered);
-    CampaignData campaign = campaignOnMap(24, maps);
-    const EditCampaign dialog(nullptr, &campaign);
-    QCOMPARE(idsIn(ground(dialog)), offered);
-    QCOMPARE(ground(dialog)->itemText(0), QString("Home Shores"));
-    QCOMPARE(ground(dialog)->currentIndex(), 0);
-}
-
-void EditCampaignTest::previewOfABackgroundIsBare()
-{
-    CampaignData campaign = campaignOnBackground(1, "m");
-    EditCampaign dialog(nullptr, &campaign);
-    QCOMPARE(previewIn(dialog).height(), previewHeight);
-    QCOMPARE(previewIn(dialog).pixelColor(0, 100), tiny::backgroundColour("plaintwo.pcx"));
-    choose(ground(dialog), 0);
-    QCOMPARE(previewIn(dialog).pixelColor(0, 100), tiny::backgroundColour("plainone.pcx"));
-}
-
-void EditCampaignTest::previewOfAMapHasItsRegions()
-{
-    CampaignData campaign = campaignOnMap(24, "m--");
-    EditCampaign dialog(nullptr, &campaign);
-    QCOMPARE(previewIn(dialog).pixelColor(200, 200), tiny::backgroundColour("backhome.pcx"));
-    choose(ground(dialog), 3);
-    QCOMPARE(previewIn(dialog).pixelColor(200, 200), tiny::backgroundColour("backtwo.pcx"));
-    // The middle of the region at (100, 100), selected and in colour 2.
-    QCOMPARE(previewIn(dialog).pixelColor(115 * previewHeight / 600, 110 * previewHeight / 600),
-             tiny::readyMadeColour(1, 1, 2));
 }
 
 void EditCampaignTest::textsAreCutAtTheirLimit_data()

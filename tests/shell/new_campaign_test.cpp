@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <utility>
+
 class NewCampaignTest : public QObject
 {
     Q_OBJECT
@@ -33,6 +35,8 @@ private slots:
     void missingRegionPictureEndsTheProcessSilently();
     void missingMaskEndsTheProcess();
     void previewWithoutRegions();
+    void previewIsScaledSmoothly();
+    void labelStandsUntilThereIsAPicture();
     void arrowKeysSwitchTheKind();
     void previewHasThePixelsOfADenseScreen();
 
@@ -109,6 +113,10 @@ void NewCampaignTest::formIsAsLaidOut()
     QVERIFY(!(dialog.windowFlags() & Qt::WindowContextHelpButtonHint));
     QCOMPARE(dialog.minimumSize(), dialog.maximumSize());
     QCOMPARE(dialog.size(), QSize(493, 479));
+    const QFont font = editorFont("MS Shell Dlg 2");
+    QVERIFY(dialog.testAttribute(Qt::WA_SetFont));
+    QCOMPARE(dialog.font().family(), font.family());
+    QCOMPARE(dialog.font().pointSize(), font.pointSize());
     QCOMPARE(dialog.findChild<QGroupBox *>("groupBox")->title(), QString("Campaign type"));
     const auto *with = dialog.findChild<QRadioButton *>("campaignWithMapBtn");
     QCOMPARE(with->text(), QString("Campaign with map"));
@@ -150,6 +158,8 @@ void NewCampaignTest::backgroundsInOrderOfTheirNumbers()
     QCOMPARE(names(dialog), QStringList({"plainone.pcx", "plaintwo.pcx"}));
     QCOMPARE(list(dialog)->item(1)->data(256).toInt(), 1);
     QCOMPARE(preview(dialog).pixelColor(200, 200), tiny::backgroundColour("plainone.pcx"));
+    // Nothing is drawn on it, not even the line around a map.
+    QCOMPARE(preview(dialog).pixelColor(0, 100), tiny::backgroundColour("plainone.pcx"));
 }
 
 void NewCampaignTest::switchingRefillsTheListAndSelectsTheFirst()
@@ -200,6 +210,9 @@ void NewCampaignTest::previewFollowsTheSelection()
     QTest::keyClick(dialog.windowHandle(), Qt::Key_Down);
     QCOMPARE(dialog.getSelectedItemId(), 3U);
     QCOMPARE(preview(dialog).pixelColor(200, 200), tiny::backgroundColour("backtwo.pcx"));
+    // The middle of the region at (100, 100), selected and in colour 2.
+    QCOMPARE(preview(dialog).pixelColor(115 * 350 / 600, 110 * 350 / 600),
+             tiny::readyMadeColour(1, 1, 2));
 }
 
 void NewCampaignTest::previewShowsRegionsSelectedInColourTwo()
@@ -269,6 +282,27 @@ void NewCampaignTest::previewWithoutRegions()
     putBackgroundToLabel(label.get(), "backtwo.pcx", false, 3);
     QCOMPARE(imageOf(*label).pixelColor(15, 15), tiny::backgroundColour("backtwo.pcx"));
     QCOMPARE(imageOf(*label).pixelColor(0, 300), tiny::backgroundColour("backtwo.pcx"));
+}
+
+// At half its size a pixel is the mean of four: here of two in the black line and two beside it.
+void NewCampaignTest::previewIsScaledSmoothly()
+{
+    QLabel label;
+    label.resize(228, 300);
+    putBackgroundToLabel(&label, "backtwo.pcx", true, 3);
+    QColor line = tiny::backgroundColour("backtwo.pcx");
+    line.setAlpha(128);
+    QVERIFY(isBlend(imageOf(label).pixelColor(0, 150), line, Qt::black));
+}
+
+void NewCampaignTest::labelStandsUntilThereIsAPicture()
+{
+    CampaignInfo &map = EditorData::campaignInfo[24];
+    const QString background = std::exchange(map.backgroundName, "nosuch.pcx");
+    NewCampaign dialog(nullptr);
+    map.backgroundName = background;
+    QVERIFY(preview(dialog).isNull());
+    QCOMPARE(dialog.findChild<QLabel *>("bgPixmapHolder")->text(), QString("image"));
 }
 
 void NewCampaignTest::arrowKeysSwitchTheKind()
