@@ -46,6 +46,8 @@ private slots:
     void leavingTheTabDropsAStoryWithoutItsBox();
     void selectingAnotherScenarioStoresTheStory_data();
     void selectingAnotherScenarioStoresTheStory();
+    void numbersAreThoseOfTheScenarioSelected_data();
+    void numbersAreThoseOfTheScenarioSelected();
     void savingTheDialogStoresTheStory_data();
     void savingTheDialogStoresTheStory();
     void storiesGoWithTheirOption_data();
@@ -133,6 +135,26 @@ void ScenarioPrologueLeavingTest::selectingAnotherScenarioStoresTheStory()
     QVERIFY(open.dialog.hasChanged());
     QCOMPARE(open.shown(), QString("0 0 "));
     QVERIFY(!storiesOf(open.copy().scenarios[1], tab)[1]);
+}
+
+void ScenarioPrologueLeavingTest::numbersAreThoseOfTheScenarioSelected_data()
+{
+    addBothTabs();
+}
+
+// Its start options are loaded before its stories.
+void ScenarioPrologueLeavingTest::numbersAreThoseOfTheScenarioSelected()
+{
+    QFETCH(int, tab);
+    CampaignData campaign = storyCampaign(3);
+    campaign.scenarios[1].startOptions = resourceBonuses(2);
+    StoriesTab open(campaign, tab);
+    QCOMPARE(open.shownNumbers(), QString("1 2 3"));
+    open.select(1);
+    QCOMPARE(open.shownNumbers(), QString("1 2"));
+    open.select(0);
+    QCOMPARE(open.shownNumbers(), QString("1 2 3"));
+    QCOMPARE(open.stored(), allThree);
 }
 
 void ScenarioPrologueLeavingTest::savingTheDialogStoresTheStory_data()

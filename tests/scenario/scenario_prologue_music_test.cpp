@@ -33,6 +33,7 @@ private slots:
     void newPageCanPlay();
     void leavingTheTabPauses_data();
     void leavingTheTabPauses();
+    void everyTabChangePausesBothTabs();
     void playAndPauseAreTraced();
     void buttonWorksWhenItGoesDown();
     void anotherChoicePauses();
@@ -160,6 +161,19 @@ void ScenarioPrologueMusicTest::leavingTheTabPauses()
     open.showTab(generalTab);
     QVERIFY(showsIcon(open, QStyle::SP_MediaPlay));
     QTRY_VERIFY(m_sound->endsSilent(silence));
+}
+
+// Whether anything plays or not.
+void ScenarioPrologueMusicTest::everyTabChangePausesBothTabs()
+{
+    CampaignData campaign = storyCampaign(3);
+    StoriesTab open(campaign, generalTab);
+    const QStringList both{"MSS - PAUSE MUSIC [1]", "MSS - PAUSE MUSIC [1]"};
+    for (const int tab : {startOptionsTab, prologueTab, epilogueTab, generalTab}) {
+        const TraceRecorder traces;
+        open.showTab(tab);
+        QCOMPARE(TraceRecorder::messages(), both);
+    }
 }
 
 void ScenarioPrologueMusicTest::playAndPauseAreTraced()

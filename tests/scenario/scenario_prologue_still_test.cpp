@@ -1,5 +1,7 @@
 // The stills of the tabs for stories: which one is shown, and what becomes of one that isn't there.
 #include "tests/scenario/stories_tab.h"
+#include "tests/support/game_bytes.h"
+#include "tests/support/picture_records.h"
 #include "tests/support/report_recorder.h"
 
 class ScenarioPrologueStillTest : public QObject
@@ -12,6 +14,7 @@ private slots:
     void newPageShowsTheFirstStill();
     void stillFollowsTheVideo();
     void stillFillsItsPlace();
+    void stillIsScaledSmoothly();
     void stillThatCannotBeReadIsNotShown();
     void missingStillEndsTheProcess();
     void missingFirstStillEndsTheProcess();
@@ -59,6 +62,24 @@ void ScenarioPrologueStillTest::stillFillsItsPlace()
     open.page()->setMovieImage("backhome.pcx"); // higher than wide
     QCOMPARE(open.still().size(), place);
     QCOMPARE(open.stillColour(), tiny::backgroundColour("backhome.pcx"));
+}
+
+// Two pixels, red and blue, become far more, with every shade between.
+void ScenarioPrologueStillTest::stillIsScaledSmoothly()
+{
+    const QByteArray record = picture_records::plainRecord(2, 1, {Qt::red, Qt::blue});
+    QFile file(m_fixture->game.write("Data/two.lod", game_files::archive({{"two.pcx", record}})));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    LodArchive archive;
+    archive.Read(file, file.fileName());
+    EditorData::lod_archives.push_back(archive);
+    CampaignData campaign = storyCampaign(1);
+    StoriesTab open(campaign, prologueTab);
+    open.page()->setMovieImage("two.pcx");
+    EditorData::lod_archives.pop_back();
+    const QColor middle = open.stillColour();
+    QVERIFY(middle.red() > 64 && middle.red() < 192);
+    QVERIFY(middle.blue() > 64 && middle.blue() < 192);
 }
 
 void ScenarioPrologueStillTest::stillThatCannotBeReadIsNotShown()
