@@ -18,6 +18,11 @@ function(cmped_test name)
     endif()
     add_executable(${name} ${name}.cpp)
     target_link_libraries(${name} PRIVATE cmped_test_support ${TEST_LINKS} Qt5::Test)
+    if(TEST_LINKS MATCHES "cmped_(dialogs|scenario|shell|widget)|Qt5::Widgets")
+        target_precompile_headers(${name} REUSE_FROM cmped_widget_test_support)
+    else()
+        target_precompile_headers(${name} REUSE_FROM cmped_test_support)
+    endif()
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${TEST_TIMEOUT}

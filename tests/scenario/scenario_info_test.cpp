@@ -267,7 +267,7 @@ void ScenarioInfoTest::whatControlsCannotShowStays_data()
     QTest::addColumn<int>("colour");
     QTest::addColumn<int>("difficulty");
     QTest::newRow("line ends of the game") << "a\r\nb\r\n" << 2 << 1;
-    QTest::newRow("hard spaces") << QString(QChar::Nbsp) + "a" + QChar::Nbsp << 2 << 1;
+    QTest::newRow("hard spaces") << QString(QChar::Nbsp) + "a" + QString(QChar::Nbsp) << 2 << 1;
     QTest::newRow("a long text") << QString(700, 'x') << 2 << 1;
     QTest::newRow("a colour past the table") << "a" << 200 << 1;
     QTest::newRow("a difficulty past the five") << "a" << 2 << 9;
