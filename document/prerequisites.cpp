@@ -169,9 +169,6 @@ void resizePrerequisites(CampaignData &campaign)
     }
 }
 
-// In all walks a whole word of arrows is held at once against the scenarios seen: 30,000 that all
-// require each other have 900 million arrows.
-
 bool isReferencedBy(CampaignData *campaign, unsigned int target, unsigned int scenario)
 {
     bool found = false;
