@@ -3,6 +3,7 @@
 #include "tests/document/samples.h"
 #include "tests/support/report_recorder.h"
 
+#include <QDataStream>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -28,6 +29,10 @@ private slots:
     void prerequisitesFitTheCountOfScenarios();
     void setsTheEditorsState();
     void anOldFileResetsTheNewFields();
+    void whatNoFileHoldsStays();
+    void aScenarioReadAgainForgetsWhatItHeld();
+    void crossoverBitsOfOldFilesFitTheTables_data();
+    void crossoverBitsOfOldFilesFitTheTables();
     void failuresAreTold_data();
     void failuresAreTold();
     void theWaitCursorIsGoneWhenTheMessageComes_data();
@@ -271,6 +276,84 @@ void CampaignReaderTest::anOldFileResetsTheNewFields()
     QCOMPARE(c.customValue, 0);
     QCOMPARE(c.scenarioCount, 0u);
     QCOMPARE(c.scenarios.size(), size_t(3));
+}
+
+void CampaignReaderTest::whatNoFileHoldsStays()
+{
+    CampaignData c;
+    c.spareFlag = true;
+    c.spareCounter = 5;
+    QVERIFY(!read(c, samples::pack(samples::campaignRecords(10, 0, 0))));
+    QVERIFY(c.spareFlag);
+    QCOMPARE(c.spareCounter, 5);
+}
+
+void CampaignReaderTest::aScenarioReadAgainForgetsWhatItHeld()
+{
+    CampaignData c;
+    c.initDummyCampaign(3, true, 0, 0);
+    c.version = 5;
+    ScenarioData s;
+    s.mapFileName = "old.e3m";
+    s.prologues.fill(std::make_shared<CmpPrologue>());
+    s.epilogues.fill(std::make_shared<CmpPrologue>());
+    s.mapHeader = std::make_shared<MapHeader>();
+    s.compressedMap = "old";
+    const auto options = std::make_shared<CmpScenarioStartOptions>();
+    s.startOptions = options;
+    QDataStream stream(samples::record(5, {}));
+    stream.setByteOrder(QDataStream::LittleEndian);
+    s.ReadFromStream(stream, &c);
+    QCOMPARE(s.mapFileName, QString());
+    QVERIFY(s.prologues[0] && !s.prologues[1] && !s.prologues[2]);
+    QVERIFY(!s.epilogues[0] && !s.epilogues[1] && !s.epilogues[2]);
+    QVERIFY(!s.mapHeader);
+    QVERIFY(s.compressedMap.isEmpty());
+    QCOMPARE(s.defaultDifficulty, quint8(4));
+    QCOMPARE(s.startOptions, options); // a record without any leaves them
+}
+
+void CampaignReaderTest::crossoverBitsOfOldFilesFitTheTables_data()
+{
+    QTest::addColumn<quint32>("version");
+    QTest::addColumn<int>("creatures"); // of the game's tables
+    QTest::addColumn<int>("artifacts");
+    QTest::addColumn<int>("creaturesSet");
+    QTest::addColumn<int>("artifactsSet");
+    QTest::newRow("5, larger tables") << 5u << 147 << 150 << 145 << 129;
+    QTest::newRow("6, larger tables") << 6u << 147 << 150 << 145 << 144;
+    QTest::newRow("5, smaller tables") << 5u << 144 << 128 << 144 << 128;
+    QTest::newRow("6, smaller tables") << 6u << 9 << 100 << 9 << 100;
+}
+
+// All bits of the file's bytes are set, those behind the last one of the array too.
+void CampaignReaderTest::crossoverBitsOfOldFilesFitTheTables()
+{
+    QFETCH(quint32, version);
+    QFETCH(int, creatures);
+    QFETCH(int, artifacts);
+    QFETCH(int, creaturesSet);
+    QFETCH(int, artifactsSet);
+    EditorData::nCreatures = unsigned(creatures);
+    EditorData::nArtifacts = unsigned(artifacts);
+    EditorData::campaignInfo[3].regionCount = 1;
+    samples::Head head;
+    head.version = version;
+    ByteWriter w;
+    w.text("").u32(0).u8(0).u8(2).u8(1).text(""); // up to the stories
+    w.u8(0).u8(0).u8(0x0F);
+    w.raw(QByteArray(19, '\xFF')).raw(QByteArray(version == 5 ? 17 : 18, '\xFF'));
+    w.raw(samples::bonusOfResources());
+    CampaignData c;
+    QVERIFY(!read(c, samples::pack(samples::head(head) + w.bytes())));
+    QBitArray expectedCreatures(creatures);
+    expectedCreatures.fill(true, 0, creaturesSet);
+    QCOMPARE(c.scenarios[0].crossover.creatures, expectedCreatures);
+    QBitArray expectedArtifacts(artifacts);
+    expectedArtifacts.fill(true, 0, artifactsSet);
+    QCOMPARE(c.scenarios[0].crossover.artifacts, expectedArtifacts);
+    QVERIFY(c.scenarios[0].startOptions); // read from its place
+    QCOMPARE(c.scenarios[0].startOptions->optionType, 1u);
 }
 
 void CampaignReaderTest::failuresAreTold_data()
