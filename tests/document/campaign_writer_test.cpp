@@ -18,6 +18,8 @@ class CampaignWriterTest : public QObject
 private slots:
     void init();
     void writesTheBytesOfTheFormat();
+    void theMapsNumberIsWrittenPlusOne_data();
+    void theMapsNumberIsWrittenPlusOne();
     void aCampaignWithoutMapsIsOneMember();
     void theMemberIsThatOfTheGzFunctionsAndItsEndFollowsTheRule();
     void readingAndWritingGivesTheSameBytes();
@@ -136,6 +138,26 @@ void CampaignWriterTest::writesTheBytesOfTheFormat()
                                     .u8(0)
                                     .bytes();
     QCOMPARE(unpacked(pieces[0]), expected);
+}
+
+void CampaignWriterTest::theMapsNumberIsWrittenPlusOne_data()
+{
+    QTest::addColumn<unsigned>("mapId");
+    QTest::addColumn<int>("byte");
+    QTest::newRow("0") << 0u << 1;
+    QTest::newRow("24") << 24u << 25;
+    QTest::newRow("254") << 254u << 255;
+    QTest::newRow("255") << 255u << 0;
+}
+
+void CampaignWriterTest::theMapsNumberIsWrittenPlusOne()
+{
+    QFETCH(unsigned, mapId);
+    QFETCH(int, byte);
+    CampaignData c;
+    c.initDummyCampaign(mapId, true, 0, 0);
+    constexpr int inFront = 4 + 4 + 1 + 4 + 4;
+    QCOMPARE(int(uchar(unpacked(c.toPieces()[0]).at(inFront))), byte);
 }
 
 void CampaignWriterTest::aCampaignWithoutMapsIsOneMember()
