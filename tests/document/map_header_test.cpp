@@ -24,6 +24,7 @@ private slots:
     void lossHasThePayloadOfItsType_data();
     void lossHasThePayloadOfItsType();
     void teamsAreThereOnlyForACount();
+    void listsAreAsLongAsTheirCountsSay();
     void aMainHeroOf255HasNeitherPortraitNorName();
     void onlyAMainTownOfOneHasAPlace();
     void anyPrefixReads_data();
@@ -323,6 +324,37 @@ void MapHeaderTest::teamsAreThereOnlyForACount()
         front + ByteWriter().u8(200).raw("\1\2\3\4\5\6\7\x08").zeros(20).u32(1).u8(9).bytes());
     QCOMPARE(with->teams, (std::array<quint8, 8>{1, 2, 3, 4, 5, 6, 7, 8}));
     QCOMPARE(with->headerHeroes.placeholders, std::vector<quint8>{9});
+}
+
+// Of a player's heroes and of the placeholders there are more than a byte can count.
+void MapHeaderTest::listsAreAsLongAsTheirCountsSay()
+{
+    constexpr unsigned playersHeroes = 258;
+    constexpr unsigned customHeroes = 255; // a byte is all they have
+    ByteWriter w;
+    w.u32(28).u8(1).zeros(4 + 1 + 4 + 4 + 1 + 1);
+    for (unsigned player = 0; player < 8; ++player) {
+        w.zeros(8).u8(0).u8(255).u8(0).u32(player == 7 ? playersHeroes : 0);
+        for (unsigned i = 0; player == 7 && i < playersHeroes; ++i)
+            w.u8(i % 256).text("x");
+    }
+    w.u8(255).u8(255).u8(0).zeros(20);
+    w.u32(playersHeroes).raw(QByteArray(int(playersHeroes), '\3'));
+    w.u8(customHeroes);
+    for (unsigned i = 0; i < customHeroes; ++i)
+        w.u8(i).u8(7).text("y").u8(9);
+    const QByteArray bytes = w.zeros(31).bytes();
+    ScenarioData scenario;
+    qint64 pos = 0;
+    read(scenario, bytes + "body", false, &pos);
+    QCOMPARE(pos, qint64(bytes.size()));
+    const MapHeader &header = *scenario.mapHeader;
+    QCOMPARE(header.players[7].heroInfo.size(), size_t(258));
+    QCOMPARE(int(header.players[7].heroInfo[257].heroId), 1);
+    QCOMPARE(header.headerHeroes.placeholders.size(), size_t(258));
+    QCOMPARE(header.headerHeroes.customHeroes.size(), size_t(255));
+    QCOMPARE(int(header.headerHeroes.customHeroes[254].heroId), 254);
+    QCOMPARE(int(header.headerHeroes.customHeroes[254].playerMask), 9);
 }
 
 void MapHeaderTest::aMainHeroOf255HasNeitherPortraitNorName()
