@@ -124,7 +124,9 @@ void StartOptionsTest::bonusesAreComparedByTypeAndPayload()
     QVERIFY(a != otherType);
     CmpStartingBonus unknown = a;
     unknown.bonusType = 8;
-    QVERIFY(!(unknown == unknown)); // NOLINT: a type above 7 equals nothing
+    CmpStartingBonus same = unknown;
+    QVERIFY(!(unknown == same)); // a type above 7 equals nothing
+    QVERIFY(unknown != same);
 }
 
 void StartOptionsTest::twoBuildingsAreAlwaysEqual()
@@ -292,6 +294,8 @@ void StartOptionsTest::aListHoldsAtMost255Entries()
     const QByteArray bytes = written(scenario);
     QCOMPARE(bytes.size(), 2 + 2 * 255);
     QCOMPARE(bytes.left(2), QByteArray("\2\xFF"));
+    const ScenarioData back = read(bytes);
+    QCOMPARE(back.startOptions->optionData.value<HeroCrossoverSet>().entries.size(), size_t(255));
 }
 
 void StartOptionsTest::anEmptyHeroListBecomesAnEmptyBonusList_data()
@@ -301,6 +305,7 @@ void StartOptionsTest::anEmptyHeroListBecomesAnEmptyBonusList_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("no map") << false << -1 << QByteArray("\1\0\0", 3);
     QTest::newRow("nobody") << true << -1 << QByteArray("\1\0\0", 3);
+    QTest::newRow("player 0") << true << 0 << QByteArray("\1\0\0", 3);
     QTest::newRow("player 2") << true << 2 << QByteArray("\1\2\0", 3);
     QTest::newRow("player 7") << true << 7 << QByteArray("\1\7\0", 3);
 }
