@@ -231,16 +231,31 @@ void CampaignDataTest::recordsOfAMapAreZeroUntilRead()
     const MapHeader header;
     QCOMPARE(header.version, 0u);
     QCOMPARE(header.subVersion, 0u);
-    QCOMPARE(header.players[7].mainHeroId, quint8(0));
-    QVERIFY(header.players[0].heroInfo.empty());
+    for (const PlayerAttributes &player : header.players) {
+        for (const int value :
+             {int(player.canHuman), int(player.canComputer), int(player.behaviour),
+              int(player.allowedTownsLow), int(player.allowedTowns), int(player.townIsRandom),
+              int(player.hasMainTown), int(player.generatesHero), int(player.mainTownType),
+              int(player.randomHero), int(player.mainHeroId), int(player.mainHeroPortrait),
+              int(player.placeholderCount)})
+            QCOMPARE(value, 0);
+        QCOMPARE(player.mainTownPosition, (std::array<quint8, 3>{}));
+        QCOMPARE(player.mainHeroName, QString());
+        QVERIFY(player.heroInfo.empty());
+    }
     QVERIFY(header.headerHeroes.available.isEmpty());
 }
 
 void CampaignDataTest::aCustomHeroIsTheTablesLastOne()
 {
     QCOMPARE(HeaderHero().heroId, quint8(162));
+    QCOMPARE(HeaderHero().portrait, quint8(0));
+    QCOMPARE(HeaderHero().playerMask, quint8(0));
     EditorData::heroes.clear();
     QCOMPARE(HeaderHero().heroId, quint8(255));
+    for (int hero = 0; hero < 300; ++hero)
+        EditorData::heroes[hero] = "hero";
+    QCOMPARE(HeaderHero().heroId, quint8(43)); // 299 without its upper bits
 }
 
 QTEST_GUILESS_MAIN(CampaignDataTest)
