@@ -1,4 +1,5 @@
-// The scenario dialog's tabs together: one that has nothing to store keeps no other from storing.
+// The scenario dialog's tabs together: one that has nothing to store keeps no other from storing,
+// and with their disabling the list follows the scenario.
 #include "scenario/starting_bonus.h"
 #include "tests/scenario/scenario_fixture.h"
 #include "tests/scenario/shown_page.h"
@@ -96,6 +97,7 @@ private slots:
     void savingStoresEveryTab();
     void selectingStoresEveryTab_data();
     void selectingStoresEveryTab();
+    void disablingTheTabsRenewsTheItem();
 
 private:
     std::unique_ptr<ScenarioFixture> fixture;
@@ -141,6 +143,18 @@ void ScenarioInfoTabsTest::selectingStoresEveryTab()
     open.select(1);
     QCOMPARE(open.dialog.hasChanged(), !pages.isEmpty());
     QCOMPARE(editedPages(open.copy().scenarios[0]), pages);
+}
+
+void ScenarioInfoTabsTest::disablingTheTabsRenewsTheItem()
+{
+    CampaignData campaign = campaignWithStories();
+    OpenScenarioDialog open(campaign, 1);
+    for (ScenarioData &scenario : open.copy().scenarios)
+        scenario.mapFileName = "other.e3m";
+    open.dialog.disableUI();
+    QCOMPARE(open.texts(), QStringList({QStringLiteral("one.e3m — Alder Bay"),
+                                        QStringLiteral("other.e3m — Birch Hill"),
+                                        QStringLiteral("Empty — Cedar Fen")}));
 }
 
 QTEST_MAIN(ScenarioInfoTabsTest)
