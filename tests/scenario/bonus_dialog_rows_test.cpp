@@ -24,6 +24,8 @@ private slots:
     void spellsAndScrollsShareTheirChoice_data();
     void spellsAndScrollsShareTheirChoice();
     void rowsInATableAreWrittenToo();
+    void textsAreThoseOfThePlayer_data();
+    void textsAreThoseOfThePlayer();
     void numbersAreCutToTheirFields_data();
     void numbersAreCutToTheirFields();
     void whatAListLacksBecomesZero_data();
@@ -233,6 +235,32 @@ void BonusDialogRowsTest::rowsInATableAreWrittenToo()
     OpenDialog open(scenario, townPlayer, item);
     open.dialog.updateBonus(item);
     QCOMPARE(told(*table.item(0, 0)), (QStringList{"7", "BonusResource 2 30", "Receive 30 Ore"}));
+}
+
+void BonusDialogRowsTest::textsAreThoseOfThePlayer_data()
+{
+    QTest::addColumn<unsigned>("player");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("choice");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("a building of the town") << unsigned(lateTown) << 2 << "recipientCombobox=Crane"
+                                            << "Build Crane at Main Town";
+    QTest::newRow("a hero on the map")
+        << unsigned(townless) << 0 << "recipientCombobox=Elbrec (on map)"
+        << "Give Aegis spell to Elbrec";
+}
+
+void BonusDialogRowsTest::textsAreThoseOfThePlayer()
+{
+    QFETCH(unsigned, player);
+    QFETCH(int, kind);
+    QFETCH(QString, choice);
+    OpenDialog open(scenario, player);
+    open.clickKind(kind);
+    makeChoices(open, {choice});
+    QTableWidgetItem item;
+    open.dialog.updateBonus(&item);
+    QTEST(item.text(), "text");
 }
 
 void BonusDialogRowsTest::numbersAreCutToTheirFields_data()

@@ -29,6 +29,7 @@ private slots:
     void strangePlayersAreHarmless_data();
     void strangePlayersAreHarmless();
     void heroesOfferedFollowTheMap();
+    void buildingsOfferedFollowTheTown();
     void zeroSkillsAreNotAccepted();
     void storedZeroSkillsOpenWithoutOk();
     void storedSkillsOpenWithOk();
@@ -212,6 +213,14 @@ void BonusDialogTest::heroesOfferedFollowTheMap()
         QCOMPARE(textsOf(recipients), (QStringList{"Most powerful hero", "Elbrec (on map)"}));
         QCOMPARE(numbersOf(recipients), (QVector<int>{0xFFFD, 4}));
     }
+}
+
+void BonusDialogTest::buildingsOfferedFollowTheTown()
+{
+    OpenDialog open(scenario, lateTown);
+    open.clickKind(2);
+    QCOMPARE(textsOf(open.box("recipientCombobox")),
+             (QStringList{"Quay", "Crane", "Arsenal", "Whale pier", "Drydock", "Beacon"}));
 }
 
 void BonusDialogTest::zeroSkillsAreNotAccepted()
