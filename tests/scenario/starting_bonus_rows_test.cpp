@@ -32,6 +32,8 @@ private slots:
     void init();
     void addsARow();
     void aRejectedDialogAddsNothing();
+    void theDialogIsForThePlayerOnShow();
+    void nothingIsJudgedBehindTheDialog();
     void noFourthRowCanBeAdded();
     void aButtonThatOpenedADialogComesUpAgain();
     void editsTheSelectedRow_data();
@@ -83,6 +85,47 @@ void StartingBonusRowsTest::aRejectedDialogAddsNothing()
     QCOMPARE(test.enabledButtons(), QString("add"));
     test.choosePlayer("Tan"); // the page reacts to a choice again
     QCOMPARE(test.texts(), QStringList());
+}
+
+void StartingBonusRowsTest::theDialogIsForThePlayerOnShow()
+{
+    BonusPage test;
+    test.load({{1, human()}, {2, humanWithHulda()}}, 1, {strongest});
+    test.clickRow(0);
+    QStringList heroes;
+    const auto look = [&heroes](QWidget *dialog) {
+        QWidget *page = dialog->findChild<QStackedWidget *>("stackedWidget")->currentWidget();
+        heroes = textsOf(page->findChild<QComboBox *>("recipientCombobox"));
+    };
+    for (const char *button : {"addButton", "editButton"}) {
+        const auto openedFor = [&](const QString &colour) {
+            test.choosePlayer(colour);
+            NextDialog dialog(lookAndChoose(look, {}, QDialogButtonBox::Cancel));
+            test.click(button);
+        };
+        openedFor("Blue");
+        QCOMPARE(heroes, QStringList("Most powerful hero"));
+        openedFor("Tan");
+        QCOMPARE(heroes, QStringList({"Most powerful hero", "Hulda (on map)"}));
+    }
+}
+
+// The new row is made for the player who was on show before.
+void StartingBonusRowsTest::nothingIsJudgedBehindTheDialog()
+{
+    BonusPage test;
+    test.load({{1, humanWithHulda()}, {2, human()}}, 1, {hulda});
+    {
+        NextDialog dialog([&](QWidget *opened) {
+            test.choosePlayer("Tan");
+            makingItGold(6)(opened);
+        });
+        test.click("addButton");
+    }
+    QCOMPARE(test.texts(), QStringList({huldaText, "Receive 6 Gold"}));
+    test.choosePlayer("Blue");
+    test.choosePlayer("Tan");
+    QCOMPARE(test.texts(), QStringList({"Receive 6 Gold"}));
 }
 
 void StartingBonusRowsTest::noFourthRowCanBeAdded()

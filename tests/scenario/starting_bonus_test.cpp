@@ -27,6 +27,7 @@ private slots:
     void loadsNothingOfAnotherKind();
     void loadingAnotherScenarioTakesTheRowsAway();
     void aPlayerThatNobodyCanPlayIsNoChoice();
+    void rowsAreNamedForThePlayerTheyAreStoredFor();
     void anUnknownTypeEndsTheProcess();
     void savesTheRowsInTheirOrder();
     void savesPlayerZeroWithoutPlayers();
@@ -196,6 +197,17 @@ void StartingBonusTest::aPlayerThatNobodyCanPlayIsNoChoice()
     test.load({{1, human()}, {2, human()}}, 6, {gold});
     QCOMPARE(test.players()->currentIndex(), -1);
     QCOMPARE(int(test.saved().player), 0);
+}
+
+// Who is not on show, for nobody can play that one.
+void StartingBonusTest::rowsAreNamedForThePlayerTheyAreStoredFor()
+{
+    PlayerAttributes computer = playerWithTown(2);
+    computer.canHuman = 0;
+    computer.heroInfo = {{7, ""}};
+    BonusPage test;
+    test.load({{0, playerWithTown(0)}, {3, computer}}, 3, {harbour, hulda});
+    QCOMPARE(test.texts(), QStringList({"Build Harbour at Main Town", huldaText}));
 }
 
 void StartingBonusTest::anUnknownTypeEndsTheProcess()
