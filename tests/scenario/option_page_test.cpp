@@ -28,6 +28,10 @@ private slots:
     void headsStayThinOverASelectedRow();
     void noButtonIsTheDefaultOfADialog();
     void clickingARowAllowsWorkOnIt();
+    void loadingAgainForbidsWorkOnRows();
+    void loadingNothingStoredAllowsNoMoreCrossovers();
+    void editingLeavesTheAddingAlone();
+    void editingLeavesTheHeightOfRows();
     void nothingIsEditedWithoutASelection();
     void removingASelectedRowAllowsAdding();
     void updateUIOnlyAllows();
@@ -173,6 +177,51 @@ void OptionPageTest::clickingARowAllowsWorkOnIt()
             QCOMPARE(shown.table()->selectedItems().size(), 2);
             QCOMPARE(shown.table()->selectedItems().constFirst(), shown.item(1, 0));
         }
+    });
+}
+
+void OptionPageTest::loadingAgainForbidsWorkOnRows()
+{
+    onBoth([this](auto &shown) {
+        shown.clickRow(0);
+        QCOMPARE(shown.enabledButtons(), QString("add edit remove"));
+        load(shown);
+        QCOMPARE(shown.enabledButtons(), QString("add"));
+        QCOMPARE(shown.page.getOptionCount(), 2U);
+    });
+}
+
+void OptionPageTest::loadingNothingStoredAllowsNoMoreCrossovers()
+{
+    ShownPage<HeroCrossover> shown;
+    load(shown);
+    QCOMPARE(shown.enabledButtons(), QString("add"));
+    m_campaign.scenarios[3].startOptions.reset();
+    shown.page.initInfo(&m_campaign, &m_campaign.scenarios[3], campaignMap);
+    QCOMPARE(shown.enabledButtons(), QString());
+}
+
+// Whether it is possible is asked anew when rows come and go.
+void OptionPageTest::editingLeavesTheAddingAlone()
+{
+    onBoth([](auto &shown) {
+        shown.clickRow(0);
+        shown.button("addButton")->setEnabled(false);
+        const NextDialog dialog(choose({}));
+        shown.click("editButton");
+        QCOMPARE(shown.enabledButtons(), QString("edit remove"));
+    });
+}
+
+void OptionPageTest::editingLeavesTheHeightOfRows()
+{
+    onBoth([](auto &shown) {
+        shown.table()->setRowHeight(0, 17);
+        shown.table()->setRowHeight(1, 17);
+        shown.clickRow(0);
+        const NextDialog dialog(choose({}));
+        shown.click("editButton");
+        QCOMPARE(shown.rowHeights(), QList<int>({17, 17}));
     });
 }
 
