@@ -47,6 +47,7 @@ private slots:
     void aKindThatIsLostGivesWayToBonuses_data();
     void aKindThatIsLostGivesWayToBonuses();
     void aKindThatIsLostTakesItsRowsUnseen();
+    void withoutAMapBonusesAreLeft();
     void aKindThatCameBackIsAllowedButNotChosen();
     void aNewMapIsJudgedInOrder();
     void rowsThatTheFirstWalkStepsOverGoInTheSecond();
@@ -200,6 +201,22 @@ void ScenarioStartOptionsRulesTest::aKindThatIsLostTakesItsRowsUnseen()
     QVERIFY(open.button(crossoverButton)->isChecked());
 }
 
+void ScenarioStartOptionsRulesTest::withoutAMapBonusesAreLeft()
+{
+    StartOptionsTab open;
+    offerCrossovers(open.scenario(), {{0, 0}, {1, 2}});
+    open.load();
+    QCOMPARE(open.rowCounts(), QList<int>({0, 2, 0}));
+    open.scenario().mapHeader.reset();
+    open.tab.updateScenarioUI();
+    QVERIFY(open.allows(bonusButton));
+    QVERIFY(!open.allows(crossoverButton));
+    QVERIFY(!open.allows(heroButton));
+    QCOMPARE(open.tab.getSelectedOption(), 1U);
+    QCOMPARE(open.shownType(), int(BonusKind));
+    QCOMPARE(open.rowCounts(), QList<int>({0, 0, 0}));
+}
+
 void ScenarioStartOptionsRulesTest::aKindThatCameBackIsAllowedButNotChosen()
 {
     StartOptionsTab open;
@@ -261,6 +278,8 @@ void ScenarioStartOptionsRulesTest::editorsMayAddRowsAfterANewMap()
     open.load();
     auto *add = childOf<QPushButton>(open.editors()[1], "addButton");
     QVERIFY(!add->isEnabled()); // nothing is stored yet
+    for (QWidget *editor : open.editors())
+        childOf<QPushButton>(editor, "addButton")->setEnabled(false);
     open.tab.updateScenarioUI();
     for (QWidget *editor : open.editors())
         QVERIFY(childOf<QPushButton>(editor, "addButton")->isEnabledTo(editor));

@@ -225,8 +225,13 @@ void ScenarioStartOptionsTest::clicksShowTheEditorAndNothingElse()
     open.load();
     open.show();
     clickOn(open.button(type == HeroKind ? bonusButton : heroButton), QPoint(5, 8));
+    const int before = open.shownType();
+    QRadioButton *button = open.button(QTest::currentDataTag());
+    const QPoint mark = button->mapTo(&open.tab, QPoint(5, 8));
     TraceRecorder traces;
-    clickOn(open.button(QTest::currentDataTag()), QPoint(5, 8));
+    QTest::mousePress(open.tab.windowHandle(), Qt::LeftButton, {}, mark);
+    QCOMPARE(open.shownType(), before); // until the button is let go
+    QTest::mouseRelease(open.tab.windowHandle(), Qt::LeftButton, {}, mark);
     QCOMPARE(TraceRecorder::messages().size(), 1);
     QCOMPARE(open.shownType(), type);
     QCOMPARE(open.tab.getSelectedOption(), unsigned(type));
