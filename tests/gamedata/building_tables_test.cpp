@@ -234,14 +234,15 @@ private slots:
         auto texts = numberedTexts();
         texts["BldgSpec.txt"] = "s0\tx\r\n \t\r\ns1\r\n\r\n\tunnamed\r\n"
                                 "s3\r\n\x80";
-        texts["Dwelling.txt"] = "\r\nd0\tx\r\n\t\r\n\x80\r\n";
+        texts["Dwelling.txt"] = "\r\nd0\tx\r\n\t\r\n\x80\r\nd2";
         readBuildings(game, texts);
         QCOMPARE(EditorData::buildings[0][18], QStringLiteral("s0"));
         QCOMPARE(EditorData::buildings[0][30], QStringLiteral("s1"));
         QCOMPARE(EditorData::buildings[0][20], QString(u8"\u20AC"));
         QCOMPARE(EditorData::buildings[0][22], QStringLiteral("d0"));
         QCOMPARE(EditorData::buildings[0][25], QString(u8"\u20AC"));
-        QCOMPARE(EditorData::buildings[0][28], QString());
+        QCOMPARE(EditorData::buildings[0][28], QStringLiteral("d2"));
+        QCOMPARE(EditorData::buildings[0][31], QString());
     }
 
     void dwellingRowsPastTheTownsStayWithoutATown()

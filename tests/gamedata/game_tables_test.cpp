@@ -147,12 +147,12 @@ private slots:
         std::vector<unsigned> expected;
         for (unsigned number = 0; number <= 101; ++number)
             expected.push_back(number);
-        for (const unsigned number :
-             {104, 105, 106, 107, 102, 103, 108, 109, 110, 111, 118, 119, 112, 127, 115,
-              123, 114, 129, 113, 125, 120, 121, 130, 131, 153, 154, 155, 156, 157, 158,
-              151, 159, 160, 161, 162, 163, 164, 165, 166, 138, 171, 172, 173, 174, 175,
-              176, 177, 178, 179, 180, 181, 182, 183, 184, 185, 139, 140, 143, 169, 141,
-              142, 137, 167, 170, 116, 144, 168, 117, 136, 132, 133, 134, 135})
+        for (const unsigned number : std::initializer_list<unsigned>{
+                 104, 105, 106, 107, 102, 103, 108, 109, 110, 111, 118, 119, 112, 127, 115,
+                 123, 114, 129, 113, 125, 120, 121, 130, 131, 153, 154, 155, 156, 157, 158,
+                 151, 159, 160, 161, 162, 163, 164, 165, 166, 138, 171, 172, 173, 174, 175,
+                 176, 177, 178, 179, 180, 181, 182, 183, 184, 185, 139, 140, 143, 169, 141,
+                 142, 137, 167, 170, 116, 144, 168, 117, 136, 132, 133, 134, 135})
             expected.push_back(number);
         QCOMPARE(EditorData::creature_ordering, expected);
     }
@@ -265,7 +265,7 @@ private slots:
                   {"secskill28", {{0, "zero"}, {1, "\x80"}, {2, "two"}}},
                   {"secskill", {{1, "no number"}}},
                   {"secskill65536", {{1, "too far"}}}});
-        game.provide({{"SSTRAITS.txt", "Title\r\nHead\r\nRiding\ta\r\n\t \t\r\n\x80\r\n"}});
+        game.provide({{"SSTRAITS.txt", "Title\r\nHead\r\nRiding\ta\r\n\t \t\r\n\x80\r\nLast"}});
         EditorData::readSkills(game_files::codec());
         QCOMPARE(EditorData::secondarySkills,
                  (Names{{0, "Sailing"}, {1, u8"\u20AC"}, {28, u8"\u20AC"}}));
