@@ -217,14 +217,25 @@ private slots:
         useTable({{"cmpbackground", {{8, "before"}}},
                   campaignMap("campmap1", generatedLayout),
                   campaignMap("campmap2", {"0", "2", "1 2", line, "Name", "a", "b", "c"}),
-                  campaignMap("campmap3", generatedLayout)});
-        initCampaigns(game);
+                  campaignMap("campmap3", generatedLayout),
+                  {"music", {{8, "Tune"}}},
+                  {"video", {{4, "Film"}}},
+                  {"cmpmoviepic", {{8, "Still"}}}});
+        auto texts = emptyTexts();
+        texts["CmpEditr.txt"] = texts["CmpEdCmd.txt"] = "h\r\nh\r\ntext";
+        initCampaigns(game, texts);
         QCOMPARE(int(EditorData::campaignInfo.size()), 2);
         QCOMPARE(EditorData::campaignInfo[1].regions[1].fillImage, QStringLiteral("SFill.pcx"));
         QCOMPARE(EditorData::campaignInfo[2].name, QStringLiteral("Name of campmap2"));
         QCOMPARE(EditorData::campaignInfo[2].regionCount, 2);
         QCOMPARE(EditorData::campaignInfo[2].regions[0].y, 2);
         QVERIFY(EditorData::backgrounds.empty());
+        // What was read before the maps stays.
+        QCOMPARE(EditorData::musicNames, (Names{{49, "Tune"}}));
+        QCOMPARE(EditorData::videoNames, (Names{{0, "Film"}}));
+        QCOMPARE(EditorData::movieImages, (Names{{0, "Still"}}));
+        QCOMPARE(EditorData::editorText, (Rows{{0, {"text"}}}));
+        QCOMPARE(EditorData::editorCmdText, (Rows{{0, {"text"}}}));
     }
 
     void repeatedMapRewritesTheSameEntry()
