@@ -1,5 +1,6 @@
 #include "gamedata/limits.h"
 #include "tests/gamedata/game_files.h"
+#include "tests/gamedata/marking_translator.h"
 #include "tests/support/report_recorder.h"
 
 #include <QTest>
@@ -273,14 +274,16 @@ private slots:
     void simpleTablesNumberTheirLines()
     {
         const GameFolder game;
-        game.provide({{"a.txt", "zero\r\n \t\r\n\r\none\tmore\r\n \tx\r\nlast"}});
+        // Only tabs and spaces make a blank line: a bare line feed is a row.
+        game.provide({{"a.txt", "zero\r\n \t\r\n\r\none\tmore\r\n \tx\r\n\n\r\nlast"}});
         std::map<int, QString> all;
         EditorData::parseTextSimple(all, QStringLiteral("a.txt"), game_files::codec(), false);
-        QCOMPARE(all,
-                 (std::map<int, QString>{{0, "zero"}, {1, "one\tmore"}, {2, " \tx"}, {3, "last"}}));
+        QCOMPARE(all, (std::map<int, QString>{
+                          {0, "zero"}, {1, "one\tmore"}, {2, " \tx"}, {3, "\n"}, {4, "last"}}));
         std::map<int, QString> most;
         EditorData::parseTextSimple(most, QStringLiteral("a.txt"), game_files::codec(), true);
-        QCOMPARE(most, (std::map<int, QString>{{0, "zero"}, {1, "one\tmore"}, {2, " \tx"}}));
+        QCOMPARE(most,
+                 (std::map<int, QString>{{0, "zero"}, {1, "one\tmore"}, {2, " \tx"}, {3, "\n"}}));
     }
 
     void startFillsTheSimpleTables()
@@ -296,6 +299,31 @@ private slots:
         QCOMPARE(EditorData::jktext, (std::map<int, QString>{{0, "first"}, {1, u8"\u20AC"}}));
         QCOMPARE(EditorData::skillLevels,
                  (std::map<int, QString>{{1, "Basic"}, {2, "Advanced"}, {3, "Expert"}}));
+    }
+
+    void skillLevelsAreInTheEditorsLanguage()
+    {
+        const GameFolder game;
+        const MarkingTranslator translator;
+        game.open(smallTexts());
+        QCOMPARE(EditorData::skillLevels,
+                 (std::map<int, QString>{
+                     {1, "QObject: Basic"}, {2, "QObject: Advanced"}, {3, "QObject: Expert"}}));
+    }
+
+    void missingTableIsToldInTheWindowsLanguage()
+    {
+        const GameFolder game;
+        const MarkingTranslator translator;
+        const ReportRecorder recorder;
+        QCOMPARE(exitCodeOf([] {
+                     EditorData::readTxtFile(QStringLiteral("none.txt"), game_files::codec());
+                 }),
+                 1);
+        QCOMPARE(recorder.errors.size(), 1);
+        QCOMPARE(recorder.errors[0].title, QStringLiteral("MainWindow: Error"));
+        QCOMPARE(recorder.errors[0].text,
+                 QStringLiteral("MainWindow: Can't find none.txt file in lod file"));
     }
 
     void anotherStartForgetsTheFirstOne()

@@ -3,6 +3,7 @@
 #include "gamedata/game_dir.h"
 #include "gamedata/limits.h"
 #include "gamedata/runtime/dat_file.h"
+#include "tests/gamedata/marking_translator.h"
 #include "tests/support/byte_writer.h"
 #include "tests/support/report_recorder.h"
 
@@ -18,6 +19,7 @@ private slots:
     void cleanup();
     void endsWithoutTheTableFile_data();
     void endsWithoutTheTableFile();
+    void saysSoInTheWindowsLanguage();
     void loadsTheTableFile();
     void looksAtNoMoreThanTheLimit();
 
@@ -64,6 +66,18 @@ void GameFilesTest::endsWithoutTheTableFile()
              QStringLiteral("Campaign Editor cannot be launched because Ravn.dat was not found. "
                             "\nRavn.dat must be in Eldmark root folder."));
     QVERIFY(!RADF);
+}
+
+void GameFilesTest::saysSoInTheWindowsLanguage()
+{
+    const MarkingTranslator translator;
+    const ReportRecorder recorder;
+    QCOMPARE(exitCodeOf([] { loadRavnDat(nullptr); }), 1);
+    QCOMPARE(recorder.errors.size(), 1);
+    QCOMPARE(recorder.errors[0].title, QStringLiteral("MainWindow: Error"));
+    QCOMPARE(recorder.errors[0].text,
+             QStringLiteral("MainWindow: Campaign Editor cannot be launched because Ravn.dat was "
+                            "not found. \nRavn.dat must be in Eldmark root folder."));
 }
 
 void GameFilesTest::loadsTheTableFile()

@@ -1,6 +1,7 @@
 #include "gamedata/game_language.h"
 
 #include "gamedata/ini_file.h"
+#include "tests/gamedata/marking_translator.h"
 #include "tests/support/report_recorder.h"
 
 #include <QTextCodec>
@@ -17,6 +18,7 @@ private slots:
     void translationsAndCodecGoByLanguage();
     void emptyEncodingIsWestern();
     void unknownEncodingEndsTheProcess();
+    void unknownEncodingIsToldInEnglish();
     void unknownEncodingMattersOnlyWhereItIsRead();
 };
 
@@ -93,6 +95,18 @@ void GameLanguageTest::unknownEncodingEndsTheProcess()
     QCOMPARE(
         recorder.errors[0].text,
         QStringLiteral("Error in Ravn_Settings.ini: field \"Ravn.dat Text Encoding\" is invalid."));
+}
+
+void GameLanguageTest::unknownEncodingIsToldInEnglish()
+{
+    _Ini_ settings(L"none");
+    settings.SetStringVal(section, encodingKey, "Moonrunes-8");
+    const MarkingTranslator translator;
+    const ReportRecorder recorder;
+    QCOMPARE(exitCodeOf([&] { gameTextCodec(2, settings); }), 1);
+    QCOMPARE(recorder.errors.size(), 1);
+    QCOMPARE(recorder.errors[0].title, QStringLiteral("Error"));
+    QVERIFY(recorder.errors[0].text.startsWith(QLatin1String("Error in Ravn_Settings.ini: ")));
 }
 
 void GameLanguageTest::unknownEncodingMattersOnlyWhereItIsRead()
