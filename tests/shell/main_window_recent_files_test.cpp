@@ -28,8 +28,11 @@ private slots:
 
     void recentFilesStartWithTheNewest();
     void sixthRecentFileDropsTheOldest();
+    void listThatIsTooLongIsCut();
     void reopenedRecentFileMovesToTheTop();
     void vanishedRecentFileStaysInTheList();
+    void vanishedRecentFileIsLookedForBehindTheQuestion_data();
+    void vanishedRecentFileIsLookedForBehindTheQuestion();
     void recentFilesReachEveryWindow();
     void ampersandInANameIsShown();
 
@@ -77,6 +80,24 @@ void MainWindowRecentFilesTest::sixthRecentFileDropsTheOldest()
     QCOMPARE(actions[4]->text(), QString("&5 n2.e3c"));
 }
 
+// As another version may have left it.
+void MainWindowRecentFilesTest::listThatIsTooLongIsCut()
+{
+    QStringList files;
+    for (int i = 1; i <= 8; ++i)
+        files << QString("/gone/n%1.e3c").arg(i);
+    files.insert(2, first);
+    files << first;
+    QSettings("cmped_info", "").setValue("recentFileList", files);
+    MainWindow window(nullptr);
+    const auto actions = recentActions(window);
+    QCOMPARE(actions.size(), 5);
+    QCOMPARE(actions[4]->data().toString(), QString("/gone/n4.e3c"));
+    actions[2]->trigger();
+    QCOMPARE(QSettings("cmped_info", "").value("recentFileList").toStringList(),
+             QStringList({first, "/gone/n1.e3c", "/gone/n2.e3c", "/gone/n3.e3c", "/gone/n4.e3c"}));
+}
+
 void MainWindowRecentFilesTest::reopenedRecentFileMovesToTheTop()
 {
     MainWindow window(nullptr);
@@ -99,6 +120,35 @@ void MainWindowRecentFilesTest::vanishedRecentFileStaysInTheList()
     recentActions(window)[1]->trigger();
     QCOMPARE(QSettings("cmped_info", "").value("recentFileList").toStringList(),
              QStringList({second, first}));
+}
+
+void MainWindowRecentFilesTest::vanishedRecentFileIsLookedForBehindTheQuestion_data()
+{
+    QTest::addColumn<int>("press");
+    QTest::newRow("No") << int(QMessageBox::No);
+    QTest::newRow("Cancel") << int(QMessageBox::Cancel);
+}
+
+void MainWindowRecentFilesTest::vanishedRecentFileIsLookedForBehindTheQuestion()
+{
+    QFETCH(int, press);
+    MainWindow window(nullptr);
+    window.loadFile(first);
+    window.loadFile(second);
+    QFile::remove(first);
+    EditorData::info.modified = true;
+    const NextDialog question(boxAnswer({title, "Save changes to second?", QMessageBox::NoIcon,
+                                         QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+                                         QMessageBox::StandardButton(press)}));
+    std::unique_ptr<NextDialog> told;
+    if (press == int(QMessageBox::No)) {
+        told = std::make_unique<NextDialog>(
+            boxAnswer({"Error", "Cannot read file " + first + ":\nNo such file or directory.",
+                       QMessageBox::Warning}));
+    }
+    recentActions(window)[1]->trigger();
+    QVERIFY(EditorData::info.modified);
+    QCOMPARE(window.campaignId, 3U);
 }
 
 void MainWindowRecentFilesTest::recentFilesReachEveryWindow()
