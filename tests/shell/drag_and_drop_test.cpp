@@ -145,6 +145,13 @@ void DragAndDropTest::dragWithoutUrlsIsTakenButNotAccepted()
     MainWindow window(nullptr);
     QVERIFY(handler.eventFilter(&window, &event));
     QVERIFY(!event.isAccepted());
+    MyGraphicsScene scene;
+    QGraphicsSceneDragDropEvent above(QEvent::GraphicsSceneDragEnter);
+    above.setMimeData(&data);
+    above.setProposedAction(Qt::CopyAction);
+    above.setDropAction(Qt::IgnoreAction);
+    QVERIFY(handler.eventFilter(&scene, &above));
+    QCOMPARE(above.dropAction(), Qt::IgnoreAction);
 }
 
 void DragAndDropTest::dropWithoutUrlsIsHarmless()
