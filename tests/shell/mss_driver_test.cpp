@@ -36,6 +36,9 @@ int runChildsPart()
     const ReportRecorder reports;
     MssInfo music;
     QByteArray told = state(music);
+    music.stream = 7; // left behind by nobody: starting begins anew
+    music.driver = 7;
+    music.initialized = true;
     const int exitCode = exitCodeOf([&music] { music.LoadDll(); });
     if (exitCode != -1)
         return 100 + exitCode;
