@@ -4,8 +4,6 @@
 #include "tests/shell/window_fixture.h"
 #include "tests/support/report_recorder.h"
 
-#include <QContextMenuEvent>
-#include <QMenu>
 #include <QScrollBar>
 #include <QStyleOptionGraphicsItem>
 #include <QWheelEvent>
@@ -40,7 +38,7 @@ private slots:
     void pressSelectsTheRegionBelow();
     void middleButtonDoesNothing();
     void pressOnTheSelectedRegionUpdatesTheInfoAndDrawsNothing();
-    void selectingRedrawsBoth();
+    void selectingRedrawsBothAndNoOther();
     void computedPicturesComeFromTheCache();
     void updateImageFollowsTheScenario();
     void updateImageWithoutChangeDrawsNothing();
@@ -49,13 +47,9 @@ private slots:
     void missingMasksEndTheProcess();
     void colourPastTheTableEndsTheProcess();
     void impossiblePictureEndsTheProcess();
-    void clickBehindTheContextMenuSelects();
     void rightDoubleClickIsIgnored();
-    void doubleClickOpensTheScenario_data();
-    void doubleClickOpensTheScenario();
     void wheelNeverScrolls();
     void enteringTheMapShowsItsHint();
-    void contextMenuOffersProperties();
     void scenarioBrowserIsAnEmptyPage();
     void mapBrowserHasItsForm();
 
@@ -216,14 +210,16 @@ void MapViewTest::pressOnTheSelectedRegionUpdatesTheInfoAndDrawsNothing()
     QCOMPARE(region->pixmap().cacheKey(), picture);
 }
 
-void MapViewTest::selectingRedrawsBoth()
+void MapViewTest::selectingRedrawsBothAndNoOther()
 {
     MainWindow window(nullptr);
     QVERIFY(show(window));
     const auto regions = regionsOf(window);
+    const qint64 picture = regions[1]->pixmap().cacheKey();
     clickOn(mapView(window)->viewport(), QPoint(210, 310));
     QCOMPARE(pixelOf(regions[0], 20, 20), throughPixmap(tiny::computedColour(2)));
     QCOMPARE(pixelOf(regions[2], 10, 10), throughPixmap(tiny::computedColour(1)));
+    QCOMPARE(regions[1]->pixmap().cacheKey(), picture);
 }
 
 void MapViewTest::computedPicturesComeFromTheCache()
@@ -332,22 +328,6 @@ void MapViewTest::impossiblePictureEndsTheProcess()
     QCOMPARE(recorder.errors[0].text, QString("Unable to generate image"));
 }
 
-void MapViewTest::clickBehindTheContextMenuSelects()
-{
-    MainWindow window(nullptr);
-    QVERIFY(show(window));
-    const auto regions = regionsOf(window);
-    QWidget *viewport = mapView(window)->viewport();
-    closeNextMenu(&window);
-    QTest::mousePress(window.windowHandle(), Qt::RightButton, Qt::NoModifier,
-                      viewport->mapTo(&window, QPoint(210, 310)));
-    QVERIFY(regions[2]->isSelected);
-    QWidget menuThatTookTheRelease;
-    QTest::mouseRelease(&menuThatTookTheRelease, Qt::RightButton);
-    clickOn(viewport, QPoint(70, 65));
-    QVERIFY(regions[1]->isSelected);
-}
-
 void MapViewTest::rightDoubleClickIsIgnored()
 {
     MainWindow window(nullptr);
@@ -360,43 +340,6 @@ void MapViewTest::rightDoubleClickIsIgnored()
                       Qt::RightButton, Qt::NoModifier);
     view.mouseDoubleClickEvent(&event);
     QVERIFY(!event.isAccepted());
-}
-
-void MapViewTest::doubleClickOpensTheScenario_data()
-{
-    QTest::addColumn<int>("button");
-    QTest::addColumn<bool>("selects");
-    QTest::addColumn<bool>("opens");
-    QTest::newRow("left") << int(Qt::LeftButton) << true << true;
-    QTest::newRow("right") << int(Qt::RightButton) << true << false;
-    QTest::newRow("middle") << int(Qt::MiddleButton) << false << true;
-}
-
-void MapViewTest::doubleClickOpensTheScenario()
-{
-    QFETCH(int, button);
-    QFETCH(bool, selects);
-    QFETCH(bool, opens);
-    MainWindow window(nullptr);
-    QVERIFY(show(window));
-    QStringList opened;
-    QTimer closing;
-    connect(&closing, &QTimer::timeout, &window, [&opened] {
-        if (QWidget *dialog = QApplication::activeModalWidget()) {
-            opened << dialog->windowTitle();
-            dialog->close();
-        }
-    });
-    closing.start(1);
-    const QPoint place(210, 310);
-    mapView(window)->setContextMenuPolicy(
-        Qt::NoContextMenu); // its menu would take the second press
-    clickOn(mapView(window)->viewport(), place, Qt::MouseButton(button));
-    QCOMPARE(regionsOf(window)[2]->isSelected, selects);
-    QCOMPARE(opened, QStringList());
-    QTest::mouseDClick(window.windowHandle(), Qt::MouseButton(button), {},
-                       mapView(window)->viewport()->mapTo(&window, place));
-    QCOMPARE(opened, opens ? QStringList("Scenario Properties") : QStringList());
 }
 
 void MapViewTest::wheelNeverScrolls()
@@ -425,27 +368,6 @@ void MapViewTest::enteringTheMapShowsItsHint()
     QApplication::sendEvent(mapView(window), &event);
     QCOMPARE(hintOf(window), QString("Hint 0"));
     QVERIFY(event.isAccepted());
-}
-
-void MapViewTest::contextMenuOffersProperties()
-{
-    MainWindow window(nullptr);
-    QVERIFY(show(window));
-    QCOMPARE(mapView(window)->contextMenuPolicy(), Qt::CustomContextMenu);
-    const NextDialog properties(closingDialog("Scenario Properties"));
-    QStringList texts;
-    QTimer::singleShot(0, &window, [&] {
-        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        QVERIFY(menu);
-        const auto entries = menu->actions();
-        for (const QAction *entry : entries)
-            texts << entry->text();
-        clickOn(menu, menu->actionGeometry(entries[0]).center());
-    });
-    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(400, 500));
-    QApplication::sendEvent(mapView(window)->viewport(), &event);
-    QTRY_COMPARE(texts, QStringList("Properties..."));
-    QVERIFY(properties.came());
 }
 
 void MapViewTest::scenarioBrowserIsAnEmptyPage()
