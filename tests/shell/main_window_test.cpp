@@ -1,10 +1,9 @@
-// The window itself: its form, menus, hints, size and the dialog about the program.
+// The window itself: its form, menus, hints and the dialog about the program.
 #include "tests/shell/window_fixture.h"
 
 #include <algorithm>
 
 #include <QDialogButtonBox>
-#include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
@@ -38,12 +37,6 @@ private slots:
     void returnKeysHaveWindowShortcuts();
     void keysOpenTheProperties_data();
     void keysOpenTheProperties();
-    void opensWithTheWholeMapInSight();
-    void smallerWindowGetsScrollBars_data();
-    void smallerWindowGetsScrollBars();
-    void largerWindowKeepsTheViewAtThePicture();
-    void leavingMaximisedRestoresTheFirstSize();
-    void longHintsDoNotWidenTheWindow();
     void aboutTellsTheGamesTexts();
     void windowHasTheIcon();
 
@@ -349,99 +342,6 @@ void MainWindowTest::keysOpenTheProperties()
         name == "scenarioProperties" ? "Scenario Properties" : "Campaign Properties"));
     QTest::keyClick(window.windowHandle(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
     QCOMPARE(opened, QStringList(name));
-}
-
-void MainWindowTest::opensWithTheWholeMapInSight()
-{
-    MainWindow window(nullptr);
-    QVERIFY(show(window));
-    QGraphicsView *view = mapView(window);
-    QCOMPARE(view->size(), QSize(456, 600));
-    QCOMPARE(view->viewport()->size(), QSize(456, 600));
-    QCOMPARE(view->mapFromScene(0, 0), QPoint(0, 0));
-    QCOMPARE(view->parentWidget()->size(), QSize(456, 600));
-    QCOMPARE(window.centralWidget()->size(), QSize(456, 600));
-    QCOMPARE(window.width(), 456);
-    QVERIFY(window.height() >= 685);
-    QCOMPARE(view->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
-    QCOMPARE(view->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
-    const QImage shown = window.grab().toImage();
-    const QPoint corner = view->mapTo(&window, QPoint(0, 0));
-    const QColor colour = tiny::backgroundColour("backhome.pcx");
-    QCOMPARE(shown.pixelColor(corner), colour);
-    QCOMPARE(shown.pixelColor(corner + QPoint(455, 599)), colour);
-}
-
-void MainWindowTest::smallerWindowGetsScrollBars_data()
-{
-    QTest::addColumn<QSize>("change");
-    QTest::addColumn<QSize>("view");
-    QTest::addColumn<bool>("bars");
-    QTest::newRow("narrower") << QSize(-56, 0) << QSize(400, 600) << true;
-    QTest::newRow("lower") << QSize(0, -100) << QSize(456, 500) << true;
-    QTest::newRow("both") << QSize(-106, -200) << QSize(350, 400) << true;
-    QTest::newRow("narrower and higher") << QSize(-56, 50) << QSize(400, 600) << true;
-    QTest::newRow("larger") << QSize(100, 100) << QSize(456, 600) << false;
-}
-
-void MainWindowTest::smallerWindowGetsScrollBars()
-{
-    QFETCH(QSize, change);
-    QFETCH(QSize, view);
-    QFETCH(bool, bars);
-    MainWindow window(nullptr);
-    QVERIFY(show(window));
-    const QSize first = window.size();
-    window.resize(first + change);
-    QTRY_COMPARE(mapView(window)->size(), view);
-    QCOMPARE(mapView(window)->parentWidget()->size(), view);
-    const auto policy = bars ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff;
-    QCOMPARE(mapView(window)->horizontalScrollBarPolicy(), policy);
-    QCOMPARE(mapView(window)->verticalScrollBarPolicy(), policy);
-    window.resize(first);
-    QTRY_COMPARE(mapView(window)->size(), QSize(456, 600));
-    QCOMPARE(mapView(window)->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
-}
-
-void MainWindowTest::largerWindowKeepsTheViewAtThePicture()
-{
-    MainWindow window(nullptr);
-    QVERIFY(show(window));
-    window.resize(900, 900);
-    QTRY_COMPARE(mapView(window)->size(), QSize(456, 600));
-    // A new layout must not stretch the page either.
-    window.centralWidget()->layout()->invalidate();
-    window.centralWidget()->layout()->activate();
-    QCOMPARE(mapView(window)->size(), QSize(456, 600));
-    QCOMPARE(mapView(window)->mapFromScene(0, 0), QPoint(0, 0));
-}
-
-void MainWindowTest::leavingMaximisedRestoresTheFirstSize()
-{
-    MainWindow window(nullptr);
-    QVERIFY(show(window));
-    const QSize first = window.size();
-    window.resize(600, 700);
-    window.showMaximized();
-    QTRY_VERIFY(window.windowState() & Qt::WindowMaximized);
-    window.showNormal();
-    QTRY_COMPARE(window.size(), first);
-}
-
-void MainWindowTest::longHintsDoNotWidenTheWindow()
-{
-    MainWindow window(nullptr);
-    QVERIFY(show(window));
-    const QSize first = window.size();
-    action(window, "actionNew")->setToolTip(QString("long ").repeated(60));
-    action(window, "actionNew")->hover();
-    QCoreApplication::processEvents();
-    QCOMPARE(window.size(), first);
-    QVERIFY(window.minimumSizeHint().width() <= 456);
-    // A long hint leaves the region's name whole and ends in an ellipsis itself.
-    const auto *region = statusLabel(window, 1);
-    QVERIFY(region->width() >= region->sizeHint().width());
-    QVERIFY(statusLabel(window, 0)->width() >= 300);
 }
 
 void MainWindowTest::aboutTellsTheGamesTexts()
