@@ -105,6 +105,7 @@ class DatFileTest : public QObject
 private slots:
     void createsAnEmptyTable();
     void readsEveryField();
+    void readsAsManyEntriesAsItStates();
     void readsFromAnyPosition();
     void replacesTheTableBefore();
     void splitsNames_data();
@@ -158,6 +159,16 @@ void DatFileTest::readsEveryField()
     QCOMPARE(second.stream->position, 0);
     QCOMPARE(QByteArray(second.stream->data, second.stream->size), QByteArray("blob"));
     QCOMPARE(second.id, 147);
+}
+
+void DatFileTest::readsAsManyEntriesAsItStates()
+{
+    for (const int count : {0, 1, 2}) {
+        ByteWriter out = header(count);
+        out << Entry{"a1", {}, {"one"}, {}, 0, {}};
+        out << Entry{"b2", {}, {"two"}, {}, 0, {}};
+        QCOMPARE(load(out.bytes())->entries.length, count); // what follows is no entry
+    }
 }
 
 void DatFileTest::readsFromAnyPosition()
