@@ -15,9 +15,11 @@
 #include <QApplication>
 #include <QEvent>
 #include <QMainWindow>
+#include <QSplashScreen>
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
 #include <array>
 
 extern "C" int run(int argc, char **argv);
@@ -38,6 +40,10 @@ struct Sight
     int polishedByOtherStyles = 0;
     QString styleSheet;
     bool isStandardLook = false;
+    bool splashStoodBeforeTheWindow = false;
+    bool windowWasMadeBeforeSound = false;
+    bool splashStayedUntilTheWindow = false;
+    bool splashLeftBehindTheWindow = false;
 };
 
 Sight sight;
@@ -54,14 +60,37 @@ QMainWindow *visibleWindow()
     return nullptr;
 }
 
+bool splashIsVisible()
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    return std::any_of(widgets.begin(), widgets.end(), [](const QWidget *widget) {
+        return qobject_cast<const QSplashScreen *>(widget) && widget->isVisible();
+    });
+}
+
+// Which of splash screen, window and sound is there when another one comes or goes. The window is
+// polished while it is made.
+void noteOrder(const QObject *watched, QEvent::Type type)
+{
+    if (watched->inherits("QMainWindow") && type == QEvent::Polish) {
+        sight.splashStoodBeforeTheWindow = splashIsVisible();
+        sight.windowWasMadeBeforeSound = !mss;
+    } else if (watched->inherits("QMainWindow") && type == QEvent::Show) {
+        sight.splashStayedUntilTheWindow = splashIsVisible();
+    } else if (watched->inherits("QSplashScreen") && type == QEvent::Hide) {
+        sight.splashLeftBehindTheWindow = visibleWindow() != nullptr;
+    }
+}
+
 // Every widget, the splash screen first, is polished by the style it is shown in.
-class StyleWatch : public QObject
+class StartWatch : public QObject
 {
 public:
     using QObject::QObject;
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
+        noteOrder(watched, event->type());
         if (event->type() == QEvent::Polish && watched->isWidgetType()) {
             ++sight.polished;
             if (!qobject_cast<FusionStyleTweaks *>(static_cast<QWidget *>(watched)->style()))
@@ -102,7 +131,7 @@ void startLooking()
     auto *timer = new QTimer(QCoreApplication::instance());
     QObject::connect(timer, &QTimer::timeout, look);
     timer->start(lookInterval);
-    QCoreApplication::instance()->installEventFilter(new StyleWatch(QCoreApplication::instance()));
+    QCoreApplication::instance()->installEventFilter(new StartWatch(QCoreApplication::instance()));
 }
 
 } // namespace
@@ -116,6 +145,7 @@ class RunStagesTest : public QObject
 private slots:
     void initTestCase();
     void loopEndsWithZero() { QCOMPARE(result, 0); }
+    void splashWindowAndSoundComeInTheirOrder();
     void dashPatternIsKeptBeforeTheLoop();
     void allWidgetsAreShownInTheProgramsStyle();
     void standardLookIsUsedWithoutASheet();
@@ -138,6 +168,14 @@ void RunStagesTest::initTestCase()
     QByteArray name("cmped");
     std::array<char *, 2> arguments{name.data(), nullptr};
     result = run(1, arguments.data());
+}
+
+void RunStagesTest::splashWindowAndSoundComeInTheirOrder()
+{
+    QVERIFY(sight.splashStoodBeforeTheWindow);
+    QVERIFY(sight.windowWasMadeBeforeSound);
+    QVERIFY(sight.splashStayedUntilTheWindow);
+    QVERIFY(sight.splashLeftBehindTheWindow);
 }
 
 void RunStagesTest::dashPatternIsKeptBeforeTheLoop()
