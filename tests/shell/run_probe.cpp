@@ -6,8 +6,9 @@
 //   window|TITLE|MENU|SPLASH|FONT SIZE|COMBO ANIMATION|HIGH DPI SCALING|HIGH DPI PIXMAPS
 //
 // When the window is there, RUN_PROBE_END says how the program is ended: "exit" by its menu,
-// "close" by the window's button, "new ROW" by choosing this row of the dialog for a new campaign,
-// or a signal's number; where the editor survives it, the menu ends it.
+// "close" by the window's button, "code NUMBER" by ending the event loop with it, "new ROW" by
+// choosing this row of the dialog for a new campaign, or a signal's number; where the editor
+// survives it, the menu ends it.
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
@@ -89,6 +90,8 @@ void endProgram(QMainWindow *window)
         window->findChild<QAction *>("actionExit")->trigger();
     else if (way == "close")
         window->close();
+    else if (way.startsWith("code "))
+        QCoreApplication::exit(way.mid(5).toInt());
     else if (way.startsWith("new "))
         chooseNewCampaign(window, way.mid(4).toInt());
     else

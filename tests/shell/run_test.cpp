@@ -42,6 +42,7 @@ private slots:
     void survivesTheLimitOnFileSizes();
     void namedFileIsOpenedBeforeTheWindowShows();
     void fileThatCantBeReadIsToldBeforeTheWindowShows();
+    void secondTranslationIsInstalledBehindTheFirst();
     void missingTranslationShowsTheSourceTexts();
     void soundDriverThatFailsIsToldBeforeTheWindowShows_data();
     void soundDriverThatFailsIsToldBeforeTheWindowShows();
@@ -86,6 +87,7 @@ void RunTest::startsTheWindowAndEnds_data()
     QTest::addColumn<QString>("end");
     QTest::newRow("exit in the menu") << "exit";
     QTest::newRow("close button") << "close";
+    QTest::newRow("a code of the event loop's own") << "code 3";
     QTest::newRow("SIGTERM") << QString::number(SIGTERM);
     QTest::newRow("SIGHUP") << QString::number(SIGHUP);
     QTest::newRow("SIGINT") << QString::number(SIGINT);
@@ -292,6 +294,17 @@ void RunTest::fileThatCantBeReadIsToldBeforeTheWindowShows()
              QStringList({"Error", "Cannot read file " + gone + ":\\nNo such file or directory.",
                           "2", "1024", "0", "en visible"}));
     QCOMPARE(columns(result, "window").value(0), untitled);
+}
+
+// Qt asks the translator installed last first, so a text that both files have is the second one's.
+void RunTest::secondTranslationIsInstalledBehindTheFirst()
+{
+    const tiny::Game game("Language=1\r\n");
+    QVERIFY(QFile::copy(builtProgram("Ravn_Data/cmp_ru.qm"), game.filePath("Ravn_Data/cmp_ru.qm")));
+    QVERIFY(QFile::copy(builtProgram("other_english.qm"), game.filePath("Ravn_Data/qtbase_ru.qm")));
+    const ChildResult result = start(game);
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(columns(result, "window").value(1), QString("Akte"));
 }
 
 // Without its translations the editor shows its source texts.
