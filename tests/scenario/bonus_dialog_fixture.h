@@ -94,10 +94,7 @@ public:
     template<typename Widget>
     Widget *find(const char *name)
     {
-        auto *widget = dialog.findChild<Widget *>(name);
-        if (!widget)
-            qFatal("The dialog has no %s.", name);
-        return widget;
+        return childOf<Widget>(&dialog, name);
     }
 
     QStackedWidget *stack() { return find<QStackedWidget>("stackedWidget"); }
@@ -105,10 +102,7 @@ public:
     template<typename Widget>
     Widget *onPage(const char *name)
     {
-        auto *widget = page()->findChild<Widget *>(name);
-        if (!widget)
-            qFatal("The page has no %s.", name);
-        return widget;
+        return childOf<Widget>(page(), name);
     }
     QComboBox *box(const char *name) { return onPage<QComboBox>(name); }
 
@@ -152,9 +146,7 @@ public:
         : OwnBonusDialog{{nullptr, &scenario, bonusCampaignMap, player, item}},
           BonusControls(ownDialog)
     {
-        dialog.show();
-        if (!QTest::qWaitForWindowExposed(&dialog))
-            QTest::qFail("The dialog never came.", __FILE__, __LINE__);
+        bringOnShow(dialog);
     }
 };
 

@@ -68,10 +68,7 @@ public:
     template<typename Widget>
     Widget *find(const char *name)
     {
-        auto *widget = parent->findChild<Widget *>(name);
-        if (!widget)
-            qFatal("The page has no %s.", name);
-        return widget;
+        return childOf<Widget>(parent.get(), name);
     }
     QWidget *make(const MakePage &page, unsigned player, QTableWidgetItem *item = nullptr)
     {

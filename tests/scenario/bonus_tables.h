@@ -5,13 +5,10 @@
 #include "document/campaign_data.h"
 #include "document/start_options.h"
 #include "gamedata/editor_data.h"
-#include "tests/support/message_boxes.h"
+#include "tests/support/widgets.h"
 
-#include <QAbstractItemView>
 #include <QApplication>
-#include <QComboBox>
 #include <QTableWidgetItem>
-#include <QTest>
 
 // Players of the map.
 enum MapPlayer : unsigned
@@ -80,28 +77,12 @@ void fillRow(QTableWidgetItem &item, unsigned char type, const Record &record,
     item.setText(text);
 }
 
-inline QStringList textsOf(const QComboBox *box)
-{
-    QStringList texts;
-    for (int row = 0; row < box->count(); ++row)
-        texts << box->itemText(row);
-    return texts;
-}
-
 inline QVector<int> numbersOf(const QComboBox *box)
 {
     QVector<int> numbers;
     for (int row = 0; row < box->count(); ++row)
         numbers << box->itemData(row, Qt::UserRole).toInt();
     return numbers;
-}
-
-inline void clickOnRow(QComboBox *box, int row, Qt::MouseButton button = Qt::LeftButton)
-{
-    QAbstractItemView *list = box->view();
-    const QModelIndex index = box->model()->index(row, box->modelColumn());
-    list->scrollTo(index);
-    clickOn(list->viewport(), list->visualRect(index).center(), button);
 }
 
 // Opens the box and picks a text, as a user does.

@@ -41,18 +41,13 @@ public:
     CrossoverTab() : tab(nullptr)
     {
         tab.resize(460, 400);
-        tab.show();
-        if (!QTest::qWaitForWindowExposed(&tab))
-            QTest::qFail("The tab never came.", __FILE__, __LINE__);
+        bringOnShow(tab);
     }
 
     template<typename Widget>
     Widget *find(const char *name)
     {
-        auto *widget = tab.findChild<Widget *>(name);
-        if (!widget)
-            qFatal("The tab has no %s.", name);
-        return widget;
+        return childOf<Widget>(&tab, name);
     }
 
     QListWidgetItem *item(const char *list, int number)

@@ -96,8 +96,7 @@ void HeroCrossoverDialogTest::open(QTableWidgetItem *item)
 {
     m_dialog = std::make_unique<HeroCrossoverDialog>(nullptr, m_campaign.get(), &m_campaign->last(),
                                                      campaignMap, m_table.get(), item);
-    m_dialog->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
+    bringOnShow(*m_dialog);
 }
 
 void HeroCrossoverDialogTest::controlsHaveTheirTexts()
@@ -262,20 +261,13 @@ void HeroCrossoverDialogTest::rightClicksDoNothing()
 
 void HeroCrossoverDialogTest::buttonsClose_data()
 {
-    QTest::addColumn<int>("button");
-    QTest::addColumn<int>("result");
-    QTest::newRow("OK") << int(QDialogButtonBox::Ok) << int(QDialog::Accepted);
-    QTest::newRow("Cancel") << int(QDialogButtonBox::Cancel) << int(QDialog::Rejected);
+    addButtonsThatClose();
 }
 
 void HeroCrossoverDialogTest::buttonsClose()
 {
-    QFETCH(int, button);
     open();
-    auto *box = childOf<QDialogButtonBox>(m_dialog.get(), "buttonBox");
-    clickOn(box->button(QDialogButtonBox::StandardButton(button)));
-    QVERIFY(!m_dialog->isVisible());
-    QTEST(m_dialog->result(), "result");
+    verifyButtonCloses(*m_dialog);
 }
 
 QTEST_MAIN(HeroCrossoverDialogTest)

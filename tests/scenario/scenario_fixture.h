@@ -9,15 +9,14 @@
 #include "shell/dialog_look.h"
 #include "shell/editor_resources.h"
 #include "shell/message_reporter.h"
-#include "tests/support/message_boxes.h"
 #include "tests/support/stored_options.h"
 #include "tests/support/tiny_game.h"
+#include "tests/support/widgets.h"
 
 #include <QApplication>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTabWidget>
-#include <QTest>
 
 #include <memory>
 #include <vector>
@@ -148,18 +147,13 @@ public:
     explicit OpenScenarioDialog(CampaignData &campaign, unsigned int region = 0)
         : dialog(nullptr, &campaign, homeMap, region)
     {
-        dialog.show();
-        if (!QTest::qWaitForWindowExposed(&dialog))
-            QTest::qFail("The dialog never came.", __FILE__, __LINE__);
+        bringOnShow(dialog);
     }
 
     template<typename Widget>
     Widget *find(const char *name)
     {
-        auto *widget = dialog.findChild<Widget *>(name);
-        if (!widget)
-            qFatal("The dialog has no %s.", name);
-        return widget;
+        return childOf<Widget>(&dialog, name);
     }
 
     QListWidget *list() { return find<QListWidget>("listWidget"); }

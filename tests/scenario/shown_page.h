@@ -2,16 +2,13 @@
 // on its rows, answer its dialogs, read its table.
 #pragma once
 
-#include "tests/support/message_boxes.h"
+#include "tests/support/widgets.h"
 
-#include <QAbstractItemView>
-#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLayout>
 #include <QPushButton>
 #include <QTableWidget>
-#include <QTest>
 
 // Keeps what is written by qDebug while it lives.
 class TraceRecorder
@@ -37,23 +34,6 @@ private:
 
     const QtMessageHandler m_before;
 };
-
-template<typename Widget>
-Widget *childOf(QWidget *parent, const char *name)
-{
-    auto *widget = parent->findChild<Widget *>(name);
-    if (!widget)
-        qFatal("There is no %s.", name);
-    return widget;
-}
-
-inline QStringList textsOf(const QComboBox *box)
-{
-    QStringList texts;
-    for (int i = 0; i < box->count(); ++i)
-        texts << box->itemText(i);
-    return texts;
-}
 
 // Chooses texts in the combo boxes of these names, one after another, and presses a button.
 struct Choice
@@ -95,9 +75,7 @@ public:
     ShownPage() : page(nullptr)
     {
         page.resize(440, 280);
-        page.show();
-        if (!QTest::qWaitForWindowExposed(&page))
-            QTest::qFail("The page never came.", __FILE__, __LINE__);
+        bringOnShow(page);
     }
 
     QTableWidget *table() { return childOf<QTableWidget>(&page, "tableWidget"); }
@@ -199,23 +177,4 @@ void letGo(ShownPage<Page> &shown, const char *name)
     QPushButton *button = shown.button(name);
     QTest::mouseRelease(shown.page.windowHandle(), Qt::LeftButton, {},
                         button->mapTo(&shown.page, button->rect().center()));
-}
-
-// A right click neither opens a box nor chooses from its list; a left click does both.
-inline void verifyRightClicksDoNothing(QComboBox *box)
-{
-    QVERIFY(box->count() > 1);
-    box->setCurrentIndex(0);
-    clickOn(box, Qt::RightButton);
-    QVERIFY(!box->view()->isVisible());
-    clickOn(box);
-    QTRY_VERIFY(box->view()->isVisible());
-    QAbstractItemView *list = box->view();
-    const QPoint second = list->visualRect(box->model()->index(1, 0)).center();
-    QTest::mouseMove(list->viewport(), second);
-    QTest::mouseClick(list->viewport(), Qt::RightButton, {}, second);
-    QVERIFY(list->isVisible());
-    QCOMPARE(box->currentIndex(), 0);
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, second);
-    QTRY_COMPARE(box->currentIndex(), 1);
 }

@@ -55,12 +55,7 @@ public:
 
     void load() { tab.initInfo(nullptr, &campaign, &scenario(), homeMap); }
 
-    void show()
-    {
-        tab.show();
-        if (!QTest::qWaitForWindowExposed(&tab))
-            QTest::qFail("The tab never came.", __FILE__, __LINE__);
-    }
+    void show() { bringOnShow(tab); }
 
     QRadioButton *button(const char *name) { return childOf<QRadioButton>(&tab, name); }
 

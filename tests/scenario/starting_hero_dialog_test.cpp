@@ -105,8 +105,7 @@ void StartingHeroDialogTest::open(const Heroes &rows, QTableWidgetItem *item)
     addRows(rows);
     m_dialog = std::make_unique<StartingHeroDialog>(nullptr, &m_scenario, campaignMap,
                                                     m_table.get(), item);
-    m_dialog->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
+    bringOnShow(*m_dialog);
 }
 
 void StartingHeroDialogTest::controlsHaveTheirTexts()
@@ -350,20 +349,13 @@ void StartingHeroDialogTest::rightClicksDoNothing()
 
 void StartingHeroDialogTest::buttonsClose_data()
 {
-    QTest::addColumn<int>("button");
-    QTest::addColumn<int>("result");
-    QTest::newRow("OK") << int(QDialogButtonBox::Ok) << int(QDialog::Accepted);
-    QTest::newRow("Cancel") << int(QDialogButtonBox::Cancel) << int(QDialog::Rejected);
+    addButtonsThatClose();
 }
 
 void StartingHeroDialogTest::buttonsClose()
 {
-    QFETCH(int, button);
     open({});
-    auto *box = childOf<QDialogButtonBox>(m_dialog.get(), "buttonBox");
-    clickOn(box->button(QDialogButtonBox::StandardButton(button)));
-    QVERIFY(!m_dialog->isVisible());
-    QTEST(m_dialog->result(), "result");
+    verifyButtonCloses(*m_dialog);
 }
 
 QTEST_MAIN(StartingHeroDialogTest)
