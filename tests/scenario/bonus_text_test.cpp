@@ -1,9 +1,9 @@
 #include "scenario/bonus_text.h"
 
 #include "tests/scenario/bonus_rows.h"
+#include "tests/scenario/bracket_translator.h"
 #include "tests/support/report_recorder.h"
 
-#include <QTranslator>
 #include <QtTest>
 
 Q_DECLARE_METATYPE(CmpStartingBonus)
@@ -11,17 +11,6 @@ Q_DECLARE_METATYPE(CmpStartingBonus)
 namespace {
 
 constexpr unsigned int noPlayer = 200;
-
-// Puts brackets around every text of its context.
-class BracketTranslator : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        return qstrcmp(context, "QObject") == 0 ? "[" + QString::fromUtf8(text) + "]" : QString();
-    }
-};
 
 } // namespace
 

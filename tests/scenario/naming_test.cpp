@@ -2,9 +2,9 @@
 
 #include "document/campaign_data.h"
 #include "gamedata/editor_data.h"
+#include "tests/scenario/bracket_translator.h"
 
 #include <QComboBox>
-#include <QTranslator>
 #include <QtTest>
 
 #include <limits>
@@ -13,17 +13,6 @@ namespace {
 
 constexpr unsigned campaignMap = 3;
 constexpr unsigned absent = std::numeric_limits<unsigned>::max();
-
-// Puts brackets around every text of its context.
-class BracketTranslator : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        return qstrcmp(context, "QObject") == 0 ? "[" + QString::fromUtf8(text) + "]" : QString();
-    }
-};
 
 } // namespace
 
