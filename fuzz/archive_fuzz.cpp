@@ -7,12 +7,6 @@
 
 namespace {
 
-bool start()
-{
-    startQuietly();
-    return true;
-}
-
 // Reads every byte of the answer and the zero behind it.
 void readAll(const LodArchive &archive, const QString &name)
 {
@@ -26,9 +20,8 @@ void readAll(const LodArchive &archive, const QString &name)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const bool started = start();
+    static const QuietStart start;
     static MemoryFile input;
-    Q_UNUSED(started)
     input.set(data, size);
     QFile file(input.path());
     if (!file.open(QIODevice::ReadOnly))

@@ -5,22 +5,10 @@
 
 #include <QFile>
 
-namespace {
-
-bool start()
-{
-    startQuietly();
-    fillSmallTables();
-    return true;
-}
-
-} // namespace
-
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const bool started = start();
+    static const QuietStart start(fillSmallTables);
     static MemoryFile input;
-    Q_UNUSED(started)
     input.set(data, size);
     QFile file(input.path());
     if (!file.open(QIODevice::ReadOnly))

@@ -35,9 +35,8 @@ QByteArray archiveBytes()
     return archive.bytes();
 }
 
-bool start()
+void loadTextTables()
 {
-    startQuietly();
     static MemoryFile archiveFile;
     const QByteArray bytes = archiveBytes();
     archiveFile.set(reinterpret_cast<const uint8_t *>(bytes.constData()), size_t(bytes.size()));
@@ -47,7 +46,6 @@ bool start()
         abort();
     archive.Read(file, archiveFile.path());
     EditorData::lod_archives = {archive};
-    return true;
 }
 
 QByteArray tableFileBytes(const QByteArray &text)
@@ -67,8 +65,7 @@ QByteArray tableFileBytes(const QByteArray &text)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const bool started = start();
-    Q_UNUSED(started)
+    static const QuietStart start(loadTextTables);
     const QByteArray text(reinterpret_cast<const char *>(data), int(size));
     QByteArray bytes = tableFileBytes(text);
     const TStreamPtr<TMemoryStream> stream(TMemoryStream::Create());

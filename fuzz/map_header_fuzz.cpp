@@ -8,13 +8,6 @@
 
 namespace {
 
-bool start()
-{
-    startQuietly();
-    fillSmallTables();
-    return true;
-}
-
 void readHeader(const QByteArray &bytes, bool check)
 {
     QDataStream stream(bytes);
@@ -27,9 +20,8 @@ void readHeader(const QByteArray &bytes, bool check)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const bool started = start();
+    static const QuietStart start(fillSmallTables);
     static MemoryFile input;
-    Q_UNUSED(started)
     const auto bytes =
         QByteArray::fromRawData(reinterpret_cast<const char *>(data), static_cast<int>(size));
     readHeader(bytes, true);

@@ -7,20 +7,9 @@
 #include <cstring>
 #include <memory>
 
-namespace {
-
-bool start()
-{
-    startQuietly();
-    return true;
-}
-
-} // namespace
-
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const bool started = start();
-    (void)started;
+    static const QuietStart start;
     // Exactly the record's bytes, so that a step past its end is seen.
     const std::unique_ptr<char[]> record(new char[size]);
     if (size > 0)

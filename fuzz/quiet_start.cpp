@@ -22,10 +22,12 @@ void addMap(int number, int regionCount)
 
 } // namespace
 
-void startQuietly()
+QuietStart::QuietStart(void (*fillTables)())
 {
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
     setReporter({[](const QString &, const QString &) {}, [](int) { std::abort(); }});
+    if (fillTables)
+        fillTables();
 }
 
 void fillSmallTables()

@@ -5,21 +5,10 @@
 
 #include <cstdlib>
 
-namespace {
-
-bool start()
-{
-    startQuietly();
-    return true;
-}
-
-} // namespace
-
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const bool started = start();
+    static const QuietStart start;
     static MemoryFile input;
-    (void)started;
     input.set(data, size);
     _Ini_ settings(input.path().toStdWString());
     settings.Read();

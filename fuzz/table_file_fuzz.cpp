@@ -10,12 +10,6 @@
 
 namespace {
 
-bool start()
-{
-    startQuietly();
-    return true;
-}
-
 // No text is longer than what the table holds of it, none lacks its end.
 void askForAll(const TDatFile &table)
 {
@@ -40,8 +34,7 @@ void askForAll(const TDatFile &table)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const bool started = start();
-    (void)started;
+    static const QuietStart start;
     const TStreamPtr<TMemoryStream> stream(TMemoryStream::Create());
     stream->Write(const_cast<uint8_t *>(data), unsigned(size));
     const std::unique_ptr<TDatFile> table(TDatFile::Create());
