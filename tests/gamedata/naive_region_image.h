@@ -38,20 +38,19 @@ inline void darkenByBorder(QColor &color, const QColor &border)
                    color.alpha());
 }
 
-inline QImage selected(const NaiveMasks &masks, const QColor &tint)
+// Each covered pixel is tinted, changed by `light` and darkened by the border.
+template<typename Light>
+QImage composed(const NaiveMasks &masks, const QColor &tint, int alpha, Light light)
 {
     QImage result = masks.fill;
     for (int y = 0; y < result.height(); ++y) {
         for (int x = 0; x < result.width(); ++x) {
             if (masks.fill.pixelColor(x, y).alpha() == 0)
                 continue;
-            QColor color(tint.red(), tint.green(), tint.blue(), 175);
+            QColor color(tint.red(), tint.green(), tint.blue(), alpha);
             const QColor glow = maskColor(masks.glow, x, y);
-            if (glow.alpha() != 0) {
-                const int g = glow.red();
-                color = QColor(lightened(color.red(), g), lightened(color.green(), g),
-                               lightened(color.blue(), g), color.alpha());
-            }
+            if (glow.alpha() != 0)
+                light(color, glow.red(), x, y);
             darkenByBorder(color, maskColor(masks.border, x, y));
             result.setPixelColor(x, y, color);
         }
@@ -59,48 +58,33 @@ inline QImage selected(const NaiveMasks &masks, const QColor &tint)
     return result;
 }
 
+inline QImage selected(const NaiveMasks &masks, const QColor &tint)
+{
+    return composed(masks, tint, 175, [](QColor &color, int glow, int, int) {
+        color = QColor(lightened(color.red(), glow), lightened(color.green(), glow),
+                       lightened(color.blue(), glow), color.alpha());
+    });
+}
+
 inline QImage unselected(const NaiveMasks &masks, const QColor &tint)
 {
-    QImage result = masks.fill;
-    for (int y = 0; y < result.height(); ++y) {
-        for (int x = 0; x < result.width(); ++x) {
-            if (masks.fill.pixelColor(x, y).alpha() == 0)
-                continue;
-            QColor color(tint.red(), tint.green(), tint.blue(), 175);
-            const QColor glow = maskColor(masks.glow, x, y);
-            if (glow.alpha() != 0) {
-                const int t = (glow.red() + 255) / 2;
-                color = QColor(darkened(color.red(), t), darkened(color.green(), t),
-                               darkened(color.blue(), t), color.alpha());
-            }
-            darkenByBorder(color, maskColor(masks.border, x, y));
-            result.setPixelColor(x, y, color);
-        }
-    }
-    return result;
+    return composed(masks, tint, 175, [](QColor &color, int glow, int, int) {
+        const int t = (glow + 255) / 2;
+        color = QColor(darkened(color.red(), t), darkened(color.green(), t),
+                       darkened(color.blue(), t), color.alpha());
+    });
 }
 
 inline QImage unused(const NaiveMasks &masks, const QColor &tint, const QImage &pattern, int left,
                      int top)
 {
-    QImage result = masks.fill;
-    for (int y = 0; y < result.height(); ++y) {
-        for (int x = 0; x < result.width(); ++x) {
-            if (masks.fill.pixelColor(x, y).alpha() == 0)
-                continue;
-            QColor color(tint.red(), tint.green(), tint.blue(), 121);
-            if (maskColor(masks.glow, x, y).alpha() != 0) {
-                const qint64 column = qint64(left) + x;
-                const qint64 row = qint64(top) + y;
-                const bool inside =
-                    column >= 0 && column < pattern.width() && row >= 0 && row < pattern.height();
-                color.setAlpha(inside ? pattern.pixelColor(int(column), int(row)).red() : 0);
-            }
-            darkenByBorder(color, maskColor(masks.border, x, y));
-            result.setPixelColor(x, y, color);
-        }
-    }
-    return result;
+    return composed(masks, tint, 121, [&](QColor &color, int, int x, int y) {
+        const qint64 column = qint64(left) + x;
+        const qint64 row = qint64(top) + y;
+        const bool inside =
+            column >= 0 && column < pattern.width() && row >= 0 && row < pattern.height();
+        color.setAlpha(inside ? pattern.pixelColor(int(column), int(row)).red() : 0);
+    });
 }
 
 } // namespace naive
