@@ -168,7 +168,7 @@ void EditorData::readSpells(QTextCodec *textCodec)
             line.startsWith(QLatin1String("Combat Spells"), Qt::CaseSensitive))
             continue;
         if (spell != unnamedSpell)
-            spells[spell] = table_text::columns(line).first();
+            spells[spell] = table_text::columns(line).constFirst();
         ++spell;
     }
 }

@@ -8,7 +8,10 @@ class ScenarioData;
 class ScenarioHost
 {
 public:
+    ScenarioHost() = default;
     virtual ~ScenarioHost() = default;
+    ScenarioHost(const ScenarioHost &) = delete;
+    ScenarioHost &operator=(const ScenarioHost &) = delete;
 
     // Notes that the dialog's campaign differs from the document.
     virtual void setChanged() = 0;

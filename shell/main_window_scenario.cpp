@@ -27,7 +27,7 @@ void MainWindow::showScenarioPropertiesDlg()
     EditorData::info.region = dialog.getCurrentRegion();
     if (!campaign.hasMap)
         return;
-    for (CampaignRegionItem *item : regionItems) {
+    for (CampaignRegionItem *item : qAsConst(regionItems)) {
         if (item->regionIndex < campaign.scenarios.size())
             item->updateImage(&campaign.scenarios[item->regionIndex]);
     }
