@@ -26,5 +26,6 @@ function(cmped_test name)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${TEST_TIMEOUT}
+        COST ${TEST_TIMEOUT} # the longest first
         ENVIRONMENT "${CMPED_LEAK_OPTIONS};QT_QPA_PLATFORM=offscreen;SDL_AUDIODRIVER=dummy;LC_ALL=C.UTF-8;CMPED_SAMPLE_GAME=${PROJECT_BINARY_DIR}/sample-game;CMPED_BIN=${PROJECT_BINARY_DIR}/bin")
 endfunction()
