@@ -3,6 +3,7 @@
 #include "tests/cli/cli_game.h"
 #include "tests/support/byte_writer.h"
 #include "tests/support/packing.h"
+#include "tests/support/sanitized.h"
 
 #include <QtTest>
 
@@ -38,15 +39,8 @@ namespace {
 constexpr qint64 kilobytesAllowed = 102400;
 constexpr qint64 kilobytesForTheLargest = 204800;
 
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool figuresCount = false;
-constexpr quint32 manyScenarios = 3000;
-constexpr qint64 millisecondsAllowed = 30000;
-#else
-constexpr bool figuresCount = true;
-constexpr quint32 manyScenarios = 30000;
-constexpr qint64 millisecondsAllowed = 1000;
-#endif
+constexpr quint32 manyScenarios = sanitized ? 3000 : 30000;
+constexpr qint64 millisecondsAllowed = sanitized ? 30000 : 1000;
 
 constexpr qint64 bombBytes = qint64(300) * 1024 * 1024;
 
@@ -200,7 +194,7 @@ void CliHostileTest::largestCampaignIsDumpedWithoutASecondCopy()
          builtProgram(QStringLiteral("cmped-cli")), m_game.path(), file});
     QCOMPARE(result.error, QByteArray());
     QCOMPARE(result.exitCode, 0);
-    if (figuresCount)
+    if (!sanitized)
         QVERIFY2(result.peakKilobytes < kilobytesForTheLargest,
                  qPrintable(QStringLiteral("%1 KB").arg(result.peakKilobytes)));
 }
@@ -214,7 +208,7 @@ void CliHostileTest::check(const CliGame &game, const QStringList &words)
     QVERIFY2(result.exitCode == 0 || result.exitCode == 2, result.error);
     QCOMPARE(result.error.isEmpty(), result.exitCode == 0);
     QVERIFY2(spent < millisecondsAllowed, qPrintable(QStringLiteral("%1 ms").arg(spent)));
-    if (figuresCount)
+    if (!sanitized)
         QVERIFY2(result.peakKilobytes < kilobytesAllowed,
                  qPrintable(QStringLiteral("%1 KB").arg(result.peakKilobytes)));
 }

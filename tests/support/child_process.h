@@ -23,7 +23,7 @@ QString builtProgram(const QString &name);
 ChildResult runChild(
     const QString &program, const QStringList &arguments,
     const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment(),
-    int timeoutMilliseconds = 60000);
+    int timeoutMilliseconds = 240000);
 
 // Whether a process answers a signal itself, as the kernel tells.
 bool catches(qint64 process, int signal);
