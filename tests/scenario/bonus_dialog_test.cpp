@@ -307,21 +307,7 @@ void BonusDialogTest::rightClicksDoNothing()
     QFETCH(QByteArray, box);
     OpenDialog open(scenario, townPlayer);
     open.clickKind(kind);
-    QComboBox *combo = open.box(box);
-    QCOMPARE(combo->currentIndex(), 0);
-    clickOn(combo, Qt::RightButton);
-    QCoreApplication::processEvents();
-    QVERIFY(!combo->view()->isVisible());
-
-    clickOn(combo);
-    QTRY_VERIFY(combo->view()->isVisible());
-    QCoreApplication::processEvents();
-    clickOnRow(combo, 1, Qt::RightButton);
-    QCoreApplication::processEvents();
-    QVERIFY(combo->view()->isVisible());
-    QCOMPARE(combo->currentIndex(), 0);
-    clickOnRow(combo, 1);
-    QTRY_COMPARE(combo->currentIndex(), 1);
+    verifyRightClicksDoNothing(open.box(box));
 }
 
 void BonusDialogTest::tabReachesThePageBeforeTheButtons()

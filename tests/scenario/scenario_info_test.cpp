@@ -329,22 +329,14 @@ void ScenarioInfoTest::theOtherTabsKeepWhatNobodyEdits()
 
 void ScenarioInfoTest::buttonsCloseTheDialog_data()
 {
-    QTest::addColumn<int>("button");
-    QTest::addColumn<int>("result");
-    QTest::newRow("OK") << int(QDialogButtonBox::Ok) << int(QDialog::Accepted);
-    QTest::newRow("Cancel") << int(QDialogButtonBox::Cancel) << int(QDialog::Rejected);
+    addButtonsThatClose();
 }
 
 void ScenarioInfoTest::buttonsCloseTheDialog()
 {
-    QFETCH(int, button);
     CampaignData campaign = campaignOf(true, {"one", "", "three"});
     OpenScenarioDialog open(campaign);
-    open.dialog.setResult(-1);
-    clickOn(
-        open.find<QDialogButtonBox>("buttonBox")->button(QDialogButtonBox::StandardButton(button)));
-    QVERIFY(!open.dialog.isVisible());
-    QTEST(open.dialog.result(), "result");
+    verifyButtonCloses(open.dialog);
 }
 
 void ScenarioInfoTest::aCampaignWithoutScenariosOpens()

@@ -3,12 +3,9 @@
 
 #include "tests/document/marked_campaigns.h"
 #include "tests/shell/window_fixture.h"
+#include "tests/support/widgets.h"
 
-#include <QComboBox>
-#include <QDialog>
-#include <QDialogButtonBox>
 #include <QLabel>
-#include <QPushButton>
 
 // On a campaign map, a scenario for each letter: those with an "m" have a map. Nothing is required.
 inline CampaignData campaignOnMap(unsigned mapId, const QString &maps)
@@ -35,20 +32,12 @@ inline CampaignData campaignOnBackground(int background, const QString &maps)
 template<typename Control>
 Control *control(const QDialog &dialog, const char *name)
 {
-    return dialog.findChild<Control *>(name);
+    return childOf<Control>(&dialog, name);
 }
 
 inline QString textOf(const QDialog &dialog, const char *name)
 {
     return control<QLabel>(dialog, name)->text();
-}
-
-inline QStringList rowsIn(const QComboBox *box)
-{
-    QStringList rows;
-    for (int i = 0; i < box->count(); ++i)
-        rows << box->itemText(i);
-    return rows;
 }
 
 inline QVector<int> idsIn(const QComboBox *box)

@@ -55,7 +55,7 @@ void EditCampaignMapTest::backgroundsInOrderOfTheirNumbers()
 {
     CampaignData campaign = campaignOnBackground(1, "m");
     const EditCampaign dialog(nullptr, &campaign);
-    QCOMPARE(rowsIn(ground(dialog)), QStringList({"plainone.pcx", "plaintwo.pcx"}));
+    QCOMPARE(textsOf(ground(dialog)), QStringList({"plainone.pcx", "plaintwo.pcx"}));
     QCOMPARE(idsIn(ground(dialog)), QVector<int>({0, 1}));
     QCOMPARE(ground(dialog)->currentIndex(), 1);
 }
