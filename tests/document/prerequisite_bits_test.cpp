@@ -221,7 +221,8 @@ void PrerequisiteBitsTest::resizingKeepsSharedArraysShared()
     scenarios[2].prerequisites = scenarios[0].prerequisites;
     scenarios[4].prerequisites = scenarios[3].prerequisites;
     resizePrerequisites(campaign);
-    QCOMPARE(rowsOf(campaign), QVector<QString>(5, "010000").toList() + QStringList("000000"));
+    QCOMPARE(rowsOf(campaign),
+             QStringList({"010000", "010000", "010000", "010000", "010000", "000000"}));
     const CampaignData &shown = campaign;
     QCOMPARE(bytesOf(shown, 1), bytesOf(shown, 0)); // the very same bytes
     QCOMPARE(bytesOf(shown, 2), bytesOf(shown, 0));
