@@ -2,6 +2,7 @@
 
 #include "document/campaign_data.h"
 #include "document/map_file_name.h"
+#include "gamedata/readable_file.h"
 #include "gamedata/report.h"
 #include "gamedata/safe_save.h"
 
@@ -63,16 +64,17 @@ MapRefresh refreshMapsFrom(const QString &folder, CampaignData &campaign,
             continue;
         QFile file(pathOf(folder, name));
         qDebug() << file.fileName();
-        if (!file.open(QIODevice::ReadOnly) && !file.exists())
+        const std::optional<QString> failure = openToRead(file);
+        if (failure && !file.exists())
             return {false, name};
-        const int result = scenario.ReadMapFromFile(&file);
+        const int result = failure ? mapUnreadable : scenario.ReadMapFromFile(&file);
         if (result == mapRefused) {
             tell(mainWindowText(
                      QT_TRANSLATE_NOOP("MainWindow", "Cannot read file %1. Map has errors."))
                      .arg(name));
         } else if (result == mapUnreadable) {
             tell(mainWindowText(QT_TRANSLATE_NOOP("MainWindow", "Cannot read file %1:\n%2."))
-                     .arg(name, file.errorString()));
+                     .arg(name, failure.value_or(file.errorString())));
             return {};
         }
     }

@@ -3,6 +3,7 @@
 #include "document/map_file_name.h"
 #include "document/prerequisites.h"
 #include "gamedata/game_dir.h"
+#include "gamedata/readable_file.h"
 #include "gamedata/used_folder.h"
 #include "scenario/scenario_general.h"
 #include "scenario/scenario_host.h"
@@ -75,12 +76,12 @@ void ScenarioGeneral::refreshMap()
 // False after a message; the scenario then keeps the map it had.
 bool ScenarioGeneral::importFrom(const QString &path)
 {
-    const auto cannotRead = [&](const QFile &file) {
-        warn(this, tr("Error"), tr("Cannot read file %1:\n%2.").arg(path, file.errorString()));
+    const auto cannotRead = [&](const QString &why) {
+        warn(this, tr("Error"), tr("Cannot read file %1:\n%2.").arg(path, why));
     };
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        cannotRead(file);
+    if (const std::optional<QString> failure = openToRead(file)) {
+        cannotRead(*failure);
         return false;
     }
     WaitCursor cursor;
@@ -89,7 +90,7 @@ bool ScenarioGeneral::importFrom(const QString &path)
     if (result == -1)
         warn(this, tr("Error"), tr("Cannot read file %1. Map has errors.").arg(path));
     else if (result == 0)
-        cannotRead(file);
+        cannotRead(file.errorString());
     return result == 1;
 }
 

@@ -4,6 +4,7 @@
 #include "campaign_dialogs/new_campaign.h"
 #include "gamedata/editor_data.h"
 #include "gamedata/game_dir.h"
+#include "gamedata/readable_file.h"
 #include "gamedata/used_folder.h"
 #include "shell/campaign_map_view.h"
 #include "shell/wait_cursor.h"
@@ -64,8 +65,8 @@ void MainWindow::loadFile(const QString &path)
     if (EditorData::info.modified && askSaveChanges() == QMessageBox::Cancel)
         return;
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        warn(this, tr("Error"), tr("Cannot read file %1:\n%2.").arg(path, file.errorString()));
+    if (const std::optional<QString> failure = openToRead(file)) {
+        warn(this, tr("Error"), tr("Cannot read file %1:\n%2.").arg(path, *failure));
         return;
     }
     WaitCursor cursor;

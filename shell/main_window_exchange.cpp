@@ -5,6 +5,7 @@
 #include "document/text_exchange.h"
 #include "gamedata/editor_data.h"
 #include "gamedata/game_dir.h"
+#include "gamedata/readable_file.h"
 #include "gamedata/safe_save.h"
 #include "gamedata/used_folder.h"
 #include "shell/wait_cursor.h"
@@ -48,8 +49,8 @@ void MainWindow::importTexts()
         return;
     rememberFolderOf(path);
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        warn(this, tr("Error"), tr("Cannot read file %1:\n%2.").arg(path, file.errorString()));
+    if (const std::optional<QString> failure = openToRead(file)) {
+        warn(this, tr("Error"), tr("Cannot read file %1:\n%2.").arg(path, *failure));
         return;
     }
     if (!importTextsFrom(file, campaign)) {

@@ -1,8 +1,10 @@
 // Importing a map into the selected scenario.
 #include "tests/scenario/map_fixture.h"
+#include "tests/support/idle_pipe.h"
 
 #include <cerrno>
 #include <cstring>
+#include <optional>
 
 class ScenarioGeneralMapTest : public QObject
 {
@@ -222,25 +224,31 @@ void ScenarioGeneralMapTest::unpackedMapIsImportedAsItStands()
 
 void ScenarioGeneralMapTest::fileThatCannotBeReadLeavesTheMap_data()
 {
-    QTest::addColumn<bool>("folderInstead");
+    QTest::addColumn<QString>("instead");
     QTest::addColumn<QString>("reason");
-    QTest::newRow("missing") << false << QString::fromLocal8Bit(strerror(ENOENT));
-    QTest::newRow("a folder") << true << "file to open is a directory";
+    QTest::newRow("missing") << "nothing" << QString::fromLocal8Bit(strerror(ENOENT));
+    QTest::newRow("a folder") << "folder"
+                              << "file to open is a directory";
+    QTest::newRow("a pipe") << "pipe"
+                            << "Not a regular file";
 }
 
 // The file dialog takes nothing but files, so this one goes when it was chosen.
 void ScenarioGeneralMapTest::fileThatCannotBeReadLeavesTheMap()
 {
-    QFETCH(bool, folderInstead);
+    QFETCH(QString, instead);
     QFETCH(QString, reason);
     CampaignData campaign = campaignOf(true, {"isle", "west"});
     GeneralTab tab(campaign);
     const QString path = fixture->writeMap("go%2ne.e3m", mapNamed("Ironmoors"));
     bool waiting = true;
+    std::optional<IdlePipe> pipe;
     {
         NextDialog dialog(chooseFile(fixture->opening("isle.e3m"), path, [&] {
             QVERIFY(QFile::remove(path));
-            QVERIFY(!folderInstead || QDir().mkdir(path));
+            QVERIFY(instead != "folder" || QDir().mkdir(path));
+            if (instead == "pipe")
+                QVERIFY(pipe.emplace(path).isMade());
         }));
         NextDialog told([&](QWidget *box) {
             waiting = QApplication::overrideCursor() != nullptr;
@@ -249,6 +257,7 @@ void ScenarioGeneralMapTest::fileThatCannotBeReadLeavesTheMap()
         });
         tab.click("refreshButton");
     }
+    QVERIFY(!pipe || !pipe->wasOpened());
     QVERIFY(!waiting);
     QCOMPARE(tab.copy().scenarios[0].mapFileName, QString("isle.e3m"));
     QCOMPARE(tab.copy().scenarios[0].compressedMap, QByteArray("packed isle.e3m"));

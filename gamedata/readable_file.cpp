@@ -1,0 +1,15 @@
+#include "gamedata/readable_file.h"
+
+#include <sys/stat.h>
+
+std::optional<QString> openToRead(QFile &file)
+{
+    struct stat now = {};
+    const bool there = stat(QFile::encodeName(file.fileName()).constData(), &now) == 0;
+    // Of a folder the file itself tells.
+    if (there && !S_ISREG(now.st_mode) && !S_ISDIR(now.st_mode))
+        return QStringLiteral("Not a regular file");
+    if (!file.open(QIODevice::ReadOnly))
+        return file.errorString();
+    return {};
+}
