@@ -1,0 +1,112 @@
+#include "tests/desktop/editor.h"
+
+#include "tests/desktop/failure.h"
+#include "tests/desktop/patience.h"
+
+#include <QFile>
+#include <QJsonDocument>
+
+namespace {
+
+constexpr int answerLimit = 90000; // milliseconds; the editor may be at work
+constexpr int logLength = 2000;
+
+QString words(const QJsonObject &answer)
+{
+    return QString::fromUtf8(QJsonDocument(answer).toJson(QJsonDocument::Compact));
+}
+
+} // namespace
+
+Editor::Editor(Screen &screen, const QString &program, const QString &plugins,
+               const QProcessEnvironment &environment)
+    : m_screen(screen), m_program(program), m_environment(environment),
+      m_logFile(m_folder.filePath("log"))
+{
+    m_environment.insert("DISPLAY", screen.display());
+    m_environment.remove("QT_QPA_PLATFORM");
+    m_environment.insert("QT_PLUGIN_PATH", plugins);
+    m_environment.insert("QT_QPA_GENERIC_PLUGINS", "widgetlocator:" + m_folder.filePath("locator"));
+    m_process.setProcessEnvironment(m_environment);
+    m_process.setStandardOutputFile(QProcess::nullDevice());
+    m_process.setStandardErrorFile(m_logFile);
+}
+
+Editor::~Editor()
+{
+    m_process.kill();
+    m_process.waitForFinished();
+}
+
+void Editor::start(const QStringList &arguments)
+{
+    m_process.start(m_program, arguments);
+    if (!m_process.waitForStarted())
+        throw Failure("the editor starts", m_process.errorString());
+    connectLocator();
+    waitFor({}, "the main window takes the input", [](const QJsonObject &answer) {
+        return answer["window"] == "MainWindow" && answer["active"].toBool();
+    });
+}
+
+void Editor::connectLocator()
+{
+    const Patience patience;
+    do {
+        m_locator.abort();
+        m_locator.connectToServer(m_folder.filePath("locator"));
+        if (m_locator.waitForConnected())
+            return;
+        if (m_process.waitForFinished(0))
+            throw Failure("the editor comes up", "it ended: " + log());
+    } while (patience.isLeft());
+    throw Failure("the editor lets its widgets be located", m_locator.errorString() + log());
+}
+
+void Editor::waitForEnd()
+{
+    if (!m_process.waitForFinished(answerLimit))
+        throw Failure("the editor ends", words(look({})));
+    if (m_process.exitStatus() != QProcess::NormalExit || m_process.exitCode() != 0)
+        throw Failure("the editor ends with status 0",
+                      QString::number(m_process.exitCode()) + ": " + log());
+}
+
+QString Editor::log() const
+{
+    QFile file(m_logFile);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return QString::fromLocal8Bit(file.readAll().right(logLength));
+}
+
+QJsonObject Editor::look(const QJsonObject &question)
+{
+    m_locator.write(QJsonDocument(question).toJson(QJsonDocument::Compact) + '\n');
+    while (!m_locator.canReadLine()) {
+        if (!m_locator.waitForReadyRead(answerLimit))
+            throw Failure("the editor is there", m_locator.errorString() + ": " + log());
+    }
+    return QJsonDocument::fromJson(m_locator.readLine()).object();
+}
+
+QJsonObject Editor::waitFor(const QJsonObject &question, const QString &expected,
+                            const std::function<bool(const QJsonObject &)> &willDo)
+{
+    const Patience patience;
+    for (;;) {
+        QJsonObject answer = look(question);
+        if (willDo(answer))
+            return answer;
+        if (!patience.isLeft())
+            throw Failure(expected, words(answer) + " to " + words(question));
+    }
+}
+
+void Editor::click(QPoint at, int button, int times)
+{
+    const int before = look({})["presses"].toInt();
+    m_screen.click(at, button, times);
+    waitFor({}, "the click reaches the editor",
+            [&](const QJsonObject &answer) { return answer["presses"].toInt() >= before + times; });
+}
