@@ -1,54 +1,50 @@
 #include "gamedata/safe_save.h"
 
-#include <QFile>
-#include <QSaveFile>
+#include "gamedata/second_file.h"
 
-#include <cerrno>
+#include <QFile>
+
 #include <climits>
-#include <filesystem>
-#include <optional>
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int longestLinkChain = 40;        // as the kernel has it
-constexpr std::size_t secondNameEnding = 7; // QSaveFile's ".XXXXXX"
+constexpr int longestLinkChain = 40; // as the kernel has it
+constexpr mode_t modeOfNewFiles = 0666;
 
-// What the system says of an error. Qt's own text is "Unknown error" after a short write.
-SaveResult failure(int code)
+SaveResult resultOf(int code)
 {
-    return {false, qt_error_string(code)};
+    return code == 0 ? SaveResult{true, {}} : SaveResult{false, qt_error_string(code)};
 }
 
-SaveResult failure(int code, const QFileDevice &file)
+// The text of a link. EINVAL for what is no link, ENOENT for what isn't there.
+int readLink(const fs::path &path, fs::path &text)
 {
-    return code != 0 ? failure(code) : SaveResult{false, file.errorString()};
+    char bytes[PATH_MAX];
+    const ssize_t size = uninterrupted([&] { return readlink(path.c_str(), bytes, sizeof bytes); });
+    if (size < 0)
+        return errno;
+    if (size == ssize_t(sizeof bytes))
+        return ENAMETOOLONG;
+    text = std::string(bytes, std::size_t(size));
+    return 0;
 }
 
-// The file behind all links, whether it exists or not. An error number if they lead nowhere.
+// The file behind all links, whether it exists or not.
 int followLinks(fs::path &path)
 {
     for (int hops = 0; hops <= longestLinkChain; ++hops) {
-        std::error_code notALink;
-        const fs::path next = fs::read_symlink(path, notALink);
-        if (notALink)
-            return 0;
+        fs::path next;
+        const int code = readLink(path, next);
+        if (code != 0)
+            return code == EINVAL || code == ENOENT ? 0 : code;
         path = path.parent_path() / next;
     }
     return ELOOP;
-}
-
-// 0 once the file's bytes are on the disk, as far as its file system can promise that.
-int syncToDisk(int handle)
-{
-    if (fsync(handle) == 0 || errno == EINVAL || errno == ENOTSUP || errno == EROFS)
-        return 0;
-    return errno;
 }
 
 fs::path folderOf(const fs::path &path)
@@ -56,157 +52,129 @@ fs::path folderOf(const fs::path &path)
     return path.has_parent_path() ? path.parent_path() : fs::path(".");
 }
 
-// QSaveFile finds out only when all is written: until then its file has no name on many systems.
-bool hasRoomForSecondName(const fs::path &path)
-{
-    const long longest = pathconf(folderOf(path).c_str(), _PC_NAME_MAX);
-    const std::size_t size = path.filename().native().size() + secondNameEnding;
-    return longest < 0 || size <= static_cast<std::size_t>(longest);
-}
-
 // Makes a rename in the folder last. The new content is in place already, so an error here says
 // nothing about the file.
 void syncFolderOf(const fs::path &path)
 {
-    const int handle = open(folderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0)
-        return;
-    fsync(handle);
-    close(handle);
+    DiskFile folder;
+    if (folder.open(folderOf(path), O_RDONLY | O_DIRECTORY) == 0)
+        folder.sync();
 }
 
-// Writes all pieces and sees them off to the disk. QFileDevice lets a short write and a failed
-// last flush pass, so each is looked at here.
-SaveResult writePieces(QFileDevice &file, const std::vector<QByteArray> &pieces)
-{
-    for (const QByteArray &piece : pieces) {
-        errno = 0;
-        if (file.write(piece) != piece.size())
-            return failure(errno, file);
-    }
-    errno = 0;
-    if (!file.flush() || file.error() != QFileDevice::NoError)
-        return failure(errno, file);
-    const int code = syncToDisk(file.handle());
-    return code == 0 ? SaveResult{true, {}} : failure(code);
-}
-
-// Gives the new file the owner and mode of the old one. Only root can give a file away; anybody
-// else keeps it, with the permissions that QSaveFile has copied, which is no reason not to save.
-void copyOwnerAndMode(int handle, const struct stat &old)
+// Gives the new file the owner, group and mode of the old one. Only root can give a file to another
+// user, and nobody to a group that isn't his own: that is no reason not to save, but whom the file
+// was closed to it stays closed to. File systems without modes refuse to set them.
+int copyOwnerAndMode(const DiskFile &file, const struct stat &old)
 {
     struct stat now = {};
-    if (fstat(handle, &now) != 0)
-        return;
-    if ((now.st_uid != old.st_uid || now.st_gid != old.st_gid) &&
-        fchown(handle, old.st_uid, old.st_gid) != 0)
-        return;
-    fchmod(handle, old.st_mode & 07777);
+    if (const int code = file.status(now))
+        return code;
+    const auto give = [&](uid_t owner, gid_t group) {
+        return errorOf([&] { return fchown(file.handle(), owner, group); }) == 0;
+    };
+    const bool sameOwner = now.st_uid == old.st_uid || give(old.st_uid, gid_t(-1));
+    const bool sameGroup = now.st_gid == old.st_gid || give(uid_t(-1), old.st_gid);
+    mode_t mode = old.st_mode & (sameOwner && sameGroup ? 07777 : 0777);
+    if (!sameGroup)
+        mode &= 0707 | (mode & 07) << 3;
+    const int code = errorOf([&] { return fchmod(file.handle(), mode); });
+    return code == EPERM || code == ENOTSUP || code == ENOSYS ? 0 : code;
 }
 
-// True where a finished second file couldn't take the target's place although the target itself
-// may be writable: a name too long for a second one, a mounted file, somebody else's file in a
-// folder like /tmp.
+// True where a finished second file can't be made or can't take the target's place, although the
+// target itself may be written: a folder without the right, a mounted file, somebody else's file
+// in a folder like /tmp.
 bool onlyInPlace(int code)
 {
     return code == ENAMETOOLONG || code == EBUSY || code == EXDEV || code == EPERM ||
            code == EACCES || code == EROFS;
 }
 
-// Writes a second file and lets it take the target's place. No answer if the target can only be
-// written in place; nothing has happened to it then.
-std::optional<SaveResult> saveBeside(const fs::path &path, const struct stat *old,
-                                     const std::vector<QByteArray> &pieces)
+// Writes a second file and lets it take the target's place.
+int saveBeside(const fs::path &path, const struct stat *old, const std::vector<QByteArray> &pieces)
 {
-    QSaveFile file(QFile::decodeName(path.c_str()));
-    if (!hasRoomForSecondName(path) || !file.open(QIODevice::WriteOnly))
-        return std::nullopt;
-    if (old)
-        copyOwnerAndMode(file.handle(), *old);
-    SaveResult written = writePieces(file, pieces);
-    if (!written.ok) {
-        file.cancelWriting();
-        return written;
+    SecondFile second(folderOf(path));
+    if (const int code = second.open(old ? old->st_mode & 0777 : modeOfNewFiles))
+        return code;
+    if (const int code = second.file().writeFromStart(pieces))
+        return code;
+    if (old) {
+        if (const int code = copyOwnerAndMode(second.file(), *old))
+            return code;
     }
-    errno = 0;
-    if (!file.commit()) {
-        const int code = errno;
-        if (onlyInPlace(code))
-            return std::nullopt;
-        return failure(code, file);
-    }
+    if (const int code = second.file().sync())
+        return code;
+    if (const int code = second.replace(path, old))
+        return code;
     syncFolderOf(path);
-    return written;
+    return 0;
 }
 
-// Gives a file written in part its old bytes back. The place they take on the disk was never
-// given up, so this succeeds on a full disk too.
-void putBack(QFile &file, const QByteArray &old)
+int writeWhole(const DiskFile &file, const std::vector<QByteArray> &pieces)
 {
-    file.seek(0);
-    file.write(old);
+    off_t size = 0;
+    for (const QByteArray &piece : pieces)
+        size += piece.size();
+    if (const int code = file.writeFromStart(pieces))
+        return code;
+    if (const int code = file.resize(size))
+        return code;
+    return file.sync();
+}
+
+// Gives a file written in part its old bytes back. The place they take on the disk was never given
+// up, so this succeeds on a full disk too. One step that fails is no reason to leave out the next.
+void putBack(const DiskFile &file, const QByteArray &old)
+{
+    file.writeFromStart({old});
     file.resize(old.size());
-    syncToDisk(file.handle());
+    file.sync();
 }
 
-SaveResult overwrite(const fs::path &path, const std::vector<QByteArray> &pieces)
+int overwrite(const fs::path &path, const std::vector<QByteArray> &pieces)
 {
-    QFile file(QFile::decodeName(path.c_str()));
-    // Without a buffer nothing is left that could be written behind the bytes put back.
-    errno = 0;
-    if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered))
-        return failure(errno, file);
-    if (file.size() >= INT_MAX)
-        return failure(EFBIG); // too large to be kept in memory
-    errno = 0;
-    const QByteArray old = file.readAll();
-    if (old.size() != file.size())
-        return failure(errno, file);
-    file.seek(0);
-    SaveResult written = writePieces(file, pieces);
-    errno = 0;
-    if (written.ok && file.pos() < old.size() && !file.resize(file.pos()))
-        written = failure(errno, file);
-    if (!written.ok) {
+    DiskFile file;
+    if (const int code = file.open(path, O_RDWR))
+        return code;
+    struct stat status = {};
+    if (const int code = file.status(status))
+        return code;
+    if (status.st_size >= INT_MAX)
+        return EFBIG; // too large to be kept in memory
+    QByteArray old;
+    if (const int code = file.readFromStart(old, int(status.st_size)))
+        return code;
+    const int code = writeWhole(file, pieces);
+    if (code != 0)
         putBack(file, old);
-        return written;
-    }
-    syncToDisk(file.handle());
-    return written;
-}
-
-SaveResult writeNewFile(const fs::path &path, const std::vector<QByteArray> &pieces)
-{
-    QFile file(QFile::decodeName(path.c_str()));
-    errno = 0;
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
-        return failure(errno, file);
-    SaveResult written = writePieces(file, pieces);
-    if (!written.ok)
-        file.remove();
-    syncFolderOf(path);
-    return written;
+    return code;
 }
 
 } // namespace
 
 SaveResult saveFileSafely(const QString &path, const std::vector<QByteArray> &pieces)
 {
+    if (!namesOneFile(path))
+        return resultOf(EILSEQ);
     fs::path target(QFile::encodeName(path).toStdString());
     if (const int code = followLinks(target))
-        return failure(code);
+        return resultOf(code);
     // Qt can't tell every name from another one, nor the system one with a zero in it.
     if (QFile::encodeName(QFile::decodeName(target.c_str())).toStdString() != target.native())
-        return failure(EILSEQ);
+        return resultOf(EILSEQ);
     struct stat old = {};
-    const bool exists = stat(target.c_str(), &old) == 0;
-    if (!exists && errno != ENOENT)
-        return failure(errno);
+    const int missing = errorOf([&] { return stat(target.c_str(), &old); });
+    if (missing != 0 && missing != ENOENT)
+        return resultOf(missing);
+    const bool exists = missing == 0;
     if (exists && S_ISDIR(old.st_mode))
-        return failure(EISDIR);
+        return resultOf(EISDIR);
     if (exists && !S_ISREG(old.st_mode))
         return {false, QStringLiteral("Not a regular file")};
-    if (const auto result = saveBeside(target, exists ? &old : nullptr, pieces))
-        return *result;
-    return exists ? overwrite(target, pieces) : writeNewFile(target, pieces);
+    // Who may write into the folder could replace what he may not write.
+    const auto mayWrite = [&] { return faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS); };
+    if (const int forbidden = exists ? errorOf(mayWrite) : 0)
+        return resultOf(forbidden);
+    const int code = saveBeside(target, exists ? &old : nullptr, pieces);
+    return resultOf(exists && onlyInPlace(code) ? overwrite(target, pieces) : code);
 }
