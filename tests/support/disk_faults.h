@@ -35,13 +35,15 @@ private:
     void (*m_handler)(int) = nullptr;
 };
 
-// A disk of its own, unmounted at the end.
+// A disk of its own, unmounted at the end. It has room for so many files and folders, its own
+// folder included; 0 for as many as it likes.
 class SmallDisk
 {
 public:
-    explicit SmallDisk(int kilobytes)
+    explicit SmallDisk(int kilobytes, int files = 0)
     {
-        const QByteArray options = "size=" + QByteArray::number(kilobytes) + "k";
+        const QByteArray options =
+            "size=" + QByteArray::number(kilobytes) + "k,nr_inodes=" + QByteArray::number(files);
         m_mounted = mount("tmpfs", place().constData(), "tmpfs", 0, options.constData()) == 0;
     }
     ~SmallDisk()
