@@ -1,6 +1,7 @@
 // Reads the input as an archive and unpacks all its files.
 #include "fuzz/memory_file.h"
 #include "fuzz/quiet_start.h"
+#include "fuzz/time_limit.h"
 #include "gamedata/lod_archive.h"
 
 #include <QFile>
@@ -21,6 +22,7 @@ void readAll(const LodArchive &archive, const QString &name)
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     static const QuietStart start;
+    const TimeLimit limit;
     static MemoryFile input;
     input.set(data, size);
     QFile file(input.path());

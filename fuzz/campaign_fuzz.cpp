@@ -2,19 +2,21 @@
 #include "document/campaign_data.h"
 #include "fuzz/memory_file.h"
 #include "fuzz/quiet_start.h"
+#include "fuzz/time_limit.h"
 
 #include <QFile>
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     static const QuietStart start(fillSmallTables);
+    const TimeLimit limit;
     static MemoryFile input;
     input.set(data, size);
     QFile file(input.path());
     if (!file.open(QIODevice::ReadOnly))
         return 0;
     CampaignData campaign;
-    if (campaign.readCampaign(&file))
+    if (!campaign.ReadFromFile(&file))
         return 0;
     campaign.toPieces();
     for (const ScenarioData &scenario : campaign.scenarios) {

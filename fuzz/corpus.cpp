@@ -5,9 +5,19 @@ namespace corpus {
 std::vector<Target> targets()
 {
     return {
-        {"archive", archives()},      {"campaign", campaigns()}, {"layout", layouts()},
-        {"map_header", maps()},       {"pcx", pictures()},       {"settings", settings()},
+        {"archive", archives()},
+        {"campaign", campaigns()},
+        {"dialog", campaigns()},
+        {"layout", layouts()},
+        {"map_header", maps()},
+        {"pcx", pictures()},
+        {"scenario_record", scenarioRecords()},
+        {"settings", settings()},
+        {"start_options", optionLists()},
+        {"string_list", stringLists()},
         {"table_file", tableFiles()},
+        {"text_import", textImports()},
+        {"text_table", textTables()},
     };
 }
 

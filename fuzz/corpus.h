@@ -17,9 +17,14 @@ std::vector<File> archives();
 std::vector<File> campaigns();
 std::vector<File> layouts();
 std::vector<File> maps();
+std::vector<File> optionLists();
 std::vector<File> pictures();
+std::vector<File> scenarioRecords();
 std::vector<File> settings();
+std::vector<File> stringLists();
 std::vector<File> tableFiles();
+std::vector<File> textImports();
+std::vector<File> textTables();
 
 struct Target
 {

@@ -8,6 +8,8 @@ namespace {
 
 using packing::gzip;
 
+constexpr int stored = 0; // level of packing: the fuzzer can change what isn't packed
+
 // The widths of the tables that the target fills, and those of the older formats.
 struct Widths
 {
@@ -107,6 +109,22 @@ QByteArray withoutMap()
     return gzip(file.bytes()) + map + map;
 }
 
+// Neither the header nor its map is packed, so that the fuzzer changes their fields.
+QByteArray plain(quint32 version, unsigned optionType)
+{
+    const QByteArray map = packing::pack(mapHeader(28), stored);
+    ByteWriter file = head(version, true, 0, 25);
+    file.raw(scenario(version, 3, map, optionType)).raw(scenario(version, 3, {}, optionType));
+    return file.raw(scenario(version, 3, map, optionType)).bytes() + map + map;
+}
+
+QByteArray plainWithoutMap(int windowBits)
+{
+    const QByteArray map = packing::pack(mapHeader(14), stored, windowBits);
+    ByteWriter file = head(10, false, 2, 25);
+    return file.raw(scenario(10, 2, map, 3)).raw(scenario(10, 2, map, 1)).bytes() + map + map;
+}
+
 QByteArray withScenarioCount(quint32 count)
 {
     return gzip(head(10, false, count, 25).raw(scenario(10, 8, {}, 0)).bytes());
@@ -145,7 +163,12 @@ std::vector<File> campaigns()
         {"version_6", onMap(6)},
         {"version_10", onMap(10)},
         {"version_10_plain", head(10, true, 0, 25).raw(scenario(10, 3, {}, 1)).bytes()},
+        {"version_10_stored", plain(10, 1)},
+        {"version_6_stored", plain(6, 2)},
+        {"version_5_stored", plain(5, 3)},
         {"without_map", withoutMap()},
+        {"without_map_stored", plainWithoutMap(packing::gzipBits)},
+        {"without_map_stored_zlib", plainWithoutMap(packing::zlibBits)},
         {"version_11", gzip(ByteWriter().u32(11).zeros(40).bytes())},
         {"subversion_2", gzip(ByteWriter().u32(10).u32(2).zeros(40).bytes())},
         {"map_number_absent", gzip(head(10, true, 0, 200).zeros(100).bytes())},
@@ -162,6 +185,34 @@ std::vector<File> campaigns()
          gzip(ByteWriter().u32(10).u32(1).u8(1).zeros(8).u8(1).text(longName).bytes())},
         {"hostile_bomb_map",
          gzip(head(10, false, 1, 25).raw(scenario(10, 1, bombMap, 0)).bytes()) + bombMap},
+    };
+}
+
+// A byte that chooses format and kind of campaign, and a record.
+std::vector<File> scenarioRecords()
+{
+    const QByteArray map = gzip(mapHeader(28));
+    return {
+        {"version_10", char(0) + scenario(10, 3, map, 1)},
+        {"version_10_without_map", char(1) + scenario(10, 3, map, 2)},
+        {"version_6", char(2) + scenario(6, 3, map, 3)},
+        {"version_6_without_map", char(3) + scenario(6, 3, {}, 0)},
+        {"version_5", char(4) + scenario(5, 3, map, 1)},
+        {"version_5_without_map", char(5) + scenario(5, 3, {}, 9)},
+    };
+}
+
+std::vector<File> optionLists()
+{
+    return {
+        {"bonuses", startOptions(1)},
+        {"heroes_crossing", startOptions(2)},
+        {"heroes", startOptions(3)},
+        {"none", startOptions(0)},
+        {"unknown", startOptions(9)},
+        {"no_heroes", ByteWriter().u8(3).u8(0).bytes()},
+        {"no_bonuses", ByteWriter().u8(1).u8(7).u8(0).bytes()},
+        {"hostile_bonuses_255", ByteWriter().u8(1).u8(7).u8(255).u8(8).bytes()},
     };
 }
 

@@ -129,6 +129,9 @@ std::vector<File> maps()
         {"version_32_sub_7", mapHeader(32, 7)},
         {"version_32_sub_9", mapHeader(32, 9)},
         {"version_28_gzip", gzip(mapHeader(28))},
+        {"version_28_stored", packing::pack(mapHeader(28), 0)}, // whose fields a fuzzer can change
+        {"two_members",
+         packing::pack(mapHeader(14).left(40), 0) + packing::pack(mapHeader(14).mid(40), 0)},
         {"no_players", ByteWriter().u32(28).u8(0).zeros(40).bytes()},
         {"victory_3", withVictory(3)},
         {"victory_10", withVictory(10)},

@@ -1,81 +1,50 @@
-// Takes the input as the text of every entry of the table file that the campaign tables read:
-// layouts of maps, lists of backgrounds, pictures, music and videos.
-#include "fuzz/memory_file.h"
+// Takes the input as the text of everything that the campaign tables read: layouts of maps, lists
+// of backgrounds, pictures, music and videos, and the texts of the editor itself.
+#include "fuzz/made_tables.h"
 #include "fuzz/quiet_start.h"
+#include "fuzz/time_limit.h"
 #include "gamedata/editor_data.h"
-#include "gamedata/runtime/dat_file.h"
-#include "tests/support/byte_writer.h"
 
-#include <QFile>
 #include <QTextCodec>
 
-#include <array>
-#include <memory>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
 
 namespace {
 
-constexpr std::array<const char *, 5> entryNames{"campmap3", "cmpbackground", "cmpmoviepic",
-                                                 "music", "video1"};
-constexpr std::array<const char *, 4> textTables{"CmpEditr.txt", "CmpEdCmd.txt", "CmpMovie.txt",
-                                                 "CmpMusic.txt"};
-constexpr int textsOfEntry = 9;
+// The second map has a number that no table has room for.
+const std::vector<const char *> entryNames{"campmap3",    "campmap99999", "cmpbackground",
+                                           "cmpmoviepic", "music",        "video1"};
 
-// An archive with the text tables, each of three lines.
-QByteArray archiveBytes()
+void clearTables()
 {
-    const QByteArray lines("First\r\nSecond\r\nThird\r\n");
-    constexpr int headerSize = 92;
-    constexpr int entrySize = 32;
-    ByteWriter archive;
-    archive.raw(QByteArray("LOD\0", 4)).u32(200).u32(textTables.size()).zeros(80);
-    const int offset = headerSize + entrySize * int(textTables.size());
-    for (const char *name : textTables)
-        archive.name16(name).u32(quint32(offset)).u32(quint32(lines.size())).u32(0).u32(0);
-    archive.raw(lines);
-    return archive.bytes();
-}
-
-void loadTextTables()
-{
-    static MemoryFile archiveFile;
-    const QByteArray bytes = archiveBytes();
-    archiveFile.set(reinterpret_cast<const uint8_t *>(bytes.constData()), size_t(bytes.size()));
-    QFile file(archiveFile.path());
-    LodArchive archive;
-    if (!file.open(QIODevice::ReadOnly))
-        abort();
-    archive.Read(file, archiveFile.path());
-    EditorData::lod_archives = {archive};
-}
-
-QByteArray tableFileBytes(const QByteArray &text)
-{
-    ByteWriter table;
-    table.raw("RDAT").u32(1).u32(entryNames.size());
-    for (const char *name : entryNames) {
-        table.text(name).text({}).u32(textsOfEntry);
-        for (int i = 0; i < textsOfEntry; ++i)
-            table.text(text);
-        table.u8(0).u32(0);
-    }
-    return table.bytes();
+    EditorData::campaignInfo.clear();
+    EditorData::backgrounds.clear();
+    EditorData::colors.clear();
+    EditorData::movieImages.clear();
+    EditorData::musicNames.clear();
+    EditorData::videoNames.clear();
+    EditorData::editorText.clear();
+    EditorData::editorCmdText.clear();
 }
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const QuietStart start(loadTextTables);
+    static const QuietStart start;
+    const TimeLimit limit;
+    static QTextCodec *const codec = QTextCodec::codecForName("Windows-1251");
     const QByteArray text(reinterpret_cast<const char *>(data), int(size));
-    QByteArray bytes = tableFileBytes(text);
-    const TStreamPtr<TMemoryStream> stream(TMemoryStream::Create());
-    stream->Write(bytes.data(), unsigned(bytes.size()));
-    const std::unique_ptr<TDatFile> table(TDatFile::Create());
-    table->Load(stream.get());
-    RADF = table.get();
-    EditorData::campaignInfo.clear();
-    EditorData::backgrounds.clear();
-    EditorData::initCampaignInfo(QTextCodec::codecForName("Windows-1251"));
-    RADF = nullptr;
+    makeTextTables(text);
+    const MadeTableFile table(entryNames, text);
+    clearTables();
+    EditorData::initCampaignInfo(codec);
+    EditorData::readColors(codec);
+    for (const auto &[number, map] : EditorData::campaignInfo) {
+        if (number != 3 || map.regionCount != map.regions.size())
+            abort(); // whoever walks the regions by their count would leave the list
+    }
     return 0;
 }

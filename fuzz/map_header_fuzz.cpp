@@ -2,6 +2,7 @@
 #include "document/campaign_data.h"
 #include "fuzz/memory_file.h"
 #include "fuzz/quiet_start.h"
+#include "fuzz/time_limit.h"
 
 #include <QDataStream>
 #include <QFile>
@@ -21,6 +22,7 @@ void readHeader(const QByteArray &bytes, bool check)
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     static const QuietStart start(fillSmallTables);
+    const TimeLimit limit;
     static MemoryFile input;
     const auto bytes =
         QByteArray::fromRawData(reinterpret_cast<const char *>(data), static_cast<int>(size));

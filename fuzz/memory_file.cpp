@@ -29,6 +29,11 @@ void MemoryFile::set(const uint8_t *data, size_t size)
         std::abort(); // no memory for the input: nothing that follows would mean anything
 }
 
+void MemoryFile::set(const QByteArray &bytes)
+{
+    set(reinterpret_cast<const uint8_t *>(bytes.constData()), size_t(bytes.size()));
+}
+
 QString MemoryFile::path() const
 {
     return QStringLiteral("/proc/self/fd/%1").arg(m_descriptor);

@@ -1,5 +1,6 @@
 // Loads the input as the game's table file and asks for every value in it.
 #include "fuzz/quiet_start.h"
+#include "fuzz/time_limit.h"
 #include "gamedata/runtime/dat_file.h"
 
 #include <cstddef>
@@ -35,6 +36,7 @@ void askForAll(const TDatFile &table)
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     static const QuietStart start;
+    const TimeLimit limit;
     const TStreamPtr<TMemoryStream> stream(TMemoryStream::Create());
     stream->Write(const_cast<uint8_t *>(data), unsigned(size));
     const std::unique_ptr<TDatFile> table(TDatFile::Create());

@@ -46,6 +46,7 @@ constexpr RoomRow kRooms[] = {
     {"tests/cli", "tests/cli/", "cli|tests/document", false},
     {"tests/tools", "tests/tools/", "tools/sample_game|tools/manual|tests/support"},
     {"tests/monkey", "tests/monkey/", "shell|cli|tests/support"},
+    {"fuzz/dialog", "fuzz/dialog/", "tests/monkey"},
     {"tests/desktop", "tests/desktop/", "tests/support"},
     {"benchmarks", "benchmarks/", "shell|tests/gamedata"},
 };
