@@ -13,6 +13,8 @@ cd "$(dirname "$(realpath "$0")")"
 game=$PWD/build/sample-game
 picture=$PWD/build/start.png
 log=$PWD/build/start.log
+# A trial leaves nothing among the user's own data, nor is it asked about anything there.
+export XDG_DATA_HOME=$PWD/build/start-data
 
 make_sample_game() {
     if [ ! -e "$game/.complete" ] || [ build/release/sample-game.stamp -nt "$game/.complete" ]; then

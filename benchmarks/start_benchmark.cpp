@@ -65,6 +65,7 @@ double millisecondsToFirstPaint(const QString &program, const QString &game)
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("CMPED_GAME_DIR", game);
     environment.insert("SDL_AUDIODRIVER", "dummy");
+    environment.insert("XDG_DATA_HOME", game);
     process.setProcessEnvironment(environment);
     const double before = monotonicMilliseconds();
     process.start(program, QStringList());

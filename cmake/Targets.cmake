@@ -10,7 +10,8 @@ set(CMPED_LEAK_OPTIONS
     "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/leaks.supp:print_suppressions=0")
 
 # cmped_test(NAME [TIMEOUT SECONDS] LINKS ...): one Qt Test program, tests/NAME.cpp, run by CTest
-# on the offscreen platform. The sample game's folder is CMPED_SAMPLE_GAME in its environment.
+# on the offscreen platform. The sample game's folder is CMPED_SAMPLE_GAME in its environment; what
+# it writes into the user's data folder stays in the build.
 function(cmped_test name)
     cmake_parse_arguments(TEST "" "TIMEOUT" "LINKS" ${ARGN})
     if(NOT TEST_TIMEOUT)
@@ -27,5 +28,5 @@ function(cmped_test name)
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${TEST_TIMEOUT}
         COST ${TEST_TIMEOUT} # the longest first
-        ENVIRONMENT "${CMPED_LEAK_OPTIONS};QT_QPA_PLATFORM=offscreen;SDL_AUDIODRIVER=dummy;LC_ALL=C.UTF-8;CMPED_SAMPLE_GAME=${PROJECT_BINARY_DIR}/sample-game;CMPED_BIN=${PROJECT_BINARY_DIR}/bin")
+        ENVIRONMENT "${CMPED_LEAK_OPTIONS};QT_QPA_PLATFORM=offscreen;SDL_AUDIODRIVER=dummy;LC_ALL=C.UTF-8;XDG_DATA_HOME=${PROJECT_BINARY_DIR}/test-data/${name};CMPED_SAMPLE_GAME=${PROJECT_BINARY_DIR}/sample-game;CMPED_BIN=${PROJECT_BINARY_DIR}/bin")
 endfunction()

@@ -101,6 +101,7 @@ void InstalledTest::editorFindsTheGameBesideItself()
     settings.close();
     auto environment = usersEnvironment();
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_elsewhere.path());
+    environment.insert(QStringLiteral("XDG_DATA_HOME"), m_elsewhere.path());
     QProcess editor;
     editor.setProcessEnvironment(environment);
     editor.setWorkingDirectory(m_elsewhere.path());

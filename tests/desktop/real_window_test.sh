@@ -11,7 +11,7 @@ work=$(mktemp -d)
 cp -R "$2" "$work/game"
 maps=$work/game/Maps
 campaign=$maps/sample.e3c
-export CMPED_GAME_DIR=$work/game XDG_CONFIG_HOME=$work/config SDL_AUDIODRIVER=dummy LC_ALL=C.UTF-8
+export CMPED_GAME_DIR=$work/game XDG_CONFIG_HOME=$work/config XDG_DATA_HOME=$work/data SDL_AUDIODRIVER=dummy LC_ALL=C.UTF-8
 unset QT_QPA_PLATFORM
 
 cleanup() {

@@ -59,6 +59,7 @@ QProcessEnvironment editorEnvironment(const tiny::Game &game, const QTemporaryDi
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("CMPED_GAME_DIR", game.path());
     environment.insert("XDG_CONFIG_HOME", settings.path());
+    environment.insert("XDG_DATA_HOME", settings.path());
     environment.insert("QT_QPA_PLATFORM", "offscreen");
     return environment;
 }

@@ -164,6 +164,7 @@ private:
 void RunStagesTest::initTestCase()
 {
     setGameRoot(game.path());
+    qputenv("XDG_DATA_HOME", QFile::encodeName(game.path()));
     settingsFile = game.filePath("Ravn_settings.ini");
     QByteArray name("cmped");
     std::array<char *, 2> arguments{name.data(), nullptr};

@@ -63,6 +63,7 @@ ChildResult RunTest::start(const tiny::Game &game, const QStringList &arguments,
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("CMPED_GAME_DIR", game.path());
     environment.insert("XDG_CONFIG_HOME", m_settings.path());
+    environment.insert("XDG_DATA_HOME", m_settings.path());
     environment.insert("XDG_RUNTIME_DIR", m_settings.path());
     environment.insert("QT_QPA_PLATFORM", "offscreen");
     environment.insert("RUN_PROBE_END", end);

@@ -1,4 +1,5 @@
-// What the window tests share: the tiny game, loaded once, and settings in a folder of their own.
+// What the window tests share: the tiny game, loaded once, and the user's settings and data in a
+// folder of their own.
 #pragma once
 
 #include "gamedata/editor_data.h"
@@ -28,6 +29,7 @@ public:
     WindowFixture()
     {
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
+        qputenv("XDG_DATA_HOME", QFile::encodeName(m_settings.filePath("data")));
         initEditorResources();
         reportWithMessageBoxes();
         QApplication::setFont(editorFont());

@@ -17,6 +17,7 @@ public:
     explicit ManualFixture(const char *language)
     {
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
+        qputenv("XDG_DATA_HOME", QFile::encodeName(m_settings.path()));
         enterManualGame(qApp, qEnvironmentVariable("CMPED_SAMPLE_GAME"),
                         QString::fromLatin1(language));
     }

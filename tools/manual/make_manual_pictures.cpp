@@ -30,6 +30,7 @@ int takePictures(QApplication *application, const QString &game, const QString &
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false")); // the program's traces
     const QTemporaryDir settings;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+    qputenv("XDG_DATA_HOME", QFile::encodeName(settings.path()));
     if (!QDir().mkpath(folder))
         return failure(QStringLiteral("Cannot make the folder %1.").arg(folder));
     enterManualGame(application, game, language);
