@@ -16,6 +16,7 @@
 #include <QString>
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -122,6 +123,8 @@ public:
     // The same, telling how it went. What could not be read again isn't written: a campaign with
     // more text than the reader takes, or on a map that the game's tables lack.
     SaveResult saveTo(const QString &path);
+    // The same, with somebody else to write the file's bytes.
+    SaveResult saveBy(const std::function<SaveResult(const std::vector<QByteArray> &)> &write);
     // The file's bytes in order: the packed header, then every map as imported.
     std::vector<QByteArray> toPieces();
 

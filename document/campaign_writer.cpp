@@ -97,9 +97,16 @@ std::vector<QByteArray> CampaignData::toPieces()
     return Writer(*this).pieces();
 }
 
+SaveResult CampaignData::saveTo(const QString &path)
+{
+    return saveBy(
+        [&](const std::vector<QByteArray> &pieces) { return saveFileSafely(path, pieces); });
+}
+
 // The file tells how many scenarios it has by its map's number alone, so of a campaign on a map
 // that the game's tables lack no scenario was read: to write it would empty the author's file.
-SaveResult CampaignData::saveTo(const QString &path)
+SaveResult CampaignData::saveBy(
+    const std::function<SaveResult(const std::vector<QByteArray> &)> &write)
 {
     if (hasMap && EditorData::campaignInfo.count(mapId) == 0)
         return {false, QObject::tr("The game has no campaign map %1").arg(mapId)};
@@ -107,7 +114,7 @@ SaveResult CampaignData::saveTo(const QString &path)
     const std::vector<QByteArray> pieces = writer.pieces();
     if (const int code = writer.fault())
         return {false, qt_error_string(code)};
-    return saveFileSafely(path, pieces);
+    return write(pieces);
 }
 
 void CampaignData::WriteToFile(QFile *file)

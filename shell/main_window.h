@@ -5,12 +5,16 @@
 #pragma once
 
 #include "document/campaign_data.h"
+#include "shell/file_stamp.h"
+#include "shell/recovery_copies.h"
 
 #include <QMainWindow>
+#include <QMessageBox>
 #include <QVector>
 
 #include <array>
 #include <memory>
+#include <optional>
 
 class CampaignRegionItem;
 class DragAndDropHandler;
@@ -46,6 +50,9 @@ public:
     void setCurrentFile(const QString &path);
     // Opens the campaign that the command line names.
     void processInfo(QApplication *application);
+    // Asks whether the newest copy of changes that were not saved shall be opened, if there is one
+    // that nobody was asked about.
+    void offerRecoveryCopy();
 
     // Builds the scene anew from the document. All items are destroyed.
     void refreshCampaignView();
@@ -77,7 +84,8 @@ private slots:
     void newFile();
     void open();
     void openRecentFile();
-    // False if the file could not be written; a file dialog that was cancelled is no failure.
+    // False if the file could not be written, or may not be overwritten; a file dialog that was
+    // cancelled is no failure.
     bool save();
     bool saveAs();
     void exportTexts();
@@ -100,7 +108,14 @@ private:
     void addBackground(const QImage &picture);
     void addRegion(int index);
     unsigned int askSaveChanges();
+    static int ask(const QString &question, QMessageBox::StandardButtons buttons,
+                   QMessageBox::StandardButton preset);
+    bool mayOverwriteCurrentFile();
+    std::optional<FileStamp> showCampaignOf(const QString &path);
     void showChangedCampaign();
+    // Wanted after every change that may stay, before anything else is done with it.
+    void keepRecoveryCopy();
+    void openRecoveryCopy(FoundCopy copy);
     // The file's name without folder and endings, "Untitled" if the campaign has none.
     QString documentName() const;
     QString documentFolder() const;
@@ -111,7 +126,9 @@ private:
     QVector<CampaignRegionItem *> regionItems; // owned by the scene, in the order of the regions
     ScenarioInfo *scenarioDialog = nullptr;    // while it is open
     CampaignData campaign;
-    QString currentFile; // empty: never saved
+    QString currentFile;        // empty: never saved
+    FileStamp currentFileStamp; // when it was opened or saved here
+    RecoveryCopies recoveryCopies;
     std::array<QAction *, recentFileCount> recentFileActions{};
     MapBrowser *mapBrowser = nullptr;
     const std::unique_ptr<Ui_MainWindow> ui;

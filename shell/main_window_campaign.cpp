@@ -29,6 +29,7 @@ void MainWindow::showChangedCampaign()
     campaignId = campaign.mapId;
     currentRegion = 0;
     EditorData::info.region = 0;
+    keepRecoveryCopy();
     refreshCampaignView();
     updateRegionLabel();
     updateWindowTitle();

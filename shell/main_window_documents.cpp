@@ -41,6 +41,7 @@ void MainWindow::newFile()
         campaign.initDummyCampaign(mapOfCampaignsWithoutMap, false, dialog.getSelectedItemId(), 1);
         campaignId = mapOfCampaignsWithoutMap;
     }
+    recoveryCopies.leave();
     currentRegion = 0;
     EditorData::info.region = 0;
     currentFile.clear();
@@ -64,29 +65,56 @@ void MainWindow::loadFile(const QString &path)
 {
     if (EditorData::info.modified && askSaveChanges() == QMessageBox::Cancel)
         return;
-    QFile file(path);
-    if (const std::optional<QString> failure = openToRead(file)) {
-        warn(this, tr("Error"), tr("Cannot read file %1:\n%2.").arg(path, *failure));
+    const std::optional<FileStamp> stamp = showCampaignOf(path);
+    if (!stamp) {
+        keepRecoveryCopy(); // the document stays, even if its changes were not wanted any more
         return;
     }
-    WaitCursor cursor;
-    CampaignData read;
-    if (!read.ReadFromFile(&file))
-        return;
-    campaign = std::move(read);
-    campaignId = campaign.mapId;
-    currentRegion = 0;
-    refreshCampaignView();
-    cursor.restore();
+    recoveryCopies.leave();
     setCurrentFile(path);
+    currentFileStamp = *stamp;
     EditorData::info.modified = false;
     updateWindowTitle();
     updateRegionLabel();
 }
 
+// Reads a campaign and shows it. Answers what the file was like before it was read, or nothing if
+// it can't be read, which a message tells.
+std::optional<FileStamp> MainWindow::showCampaignOf(const QString &path)
+{
+    QFile file(path);
+    if (const std::optional<QString> failure = openToRead(file)) {
+        warn(this, tr("Error"), tr("Cannot read file %1:\n%2.").arg(path, *failure));
+        return std::nullopt;
+    }
+    const WaitCursor cursor;
+    const FileStamp stamp = stampOf(file);
+    CampaignData read;
+    if (!read.ReadFromFile(&file))
+        return std::nullopt;
+    campaign = std::move(read);
+    campaignId = campaign.mapId;
+    currentRegion = 0;
+    refreshCampaignView();
+    return stamp;
+}
+
+// Nobody's work is overwritten unasked: another program may have saved the file since.
 bool MainWindow::save()
 {
-    return currentFile.isEmpty() ? saveAs() : saveFile(currentFile);
+    if (currentFile.isEmpty())
+        return saveAs();
+    return mayOverwriteCurrentFile() && saveFile(currentFile);
+}
+
+bool MainWindow::mayOverwriteCurrentFile()
+{
+    const FileStamp now = stampOf(currentFile);
+    if (!now.exists || now == currentFileStamp)
+        return true;
+    return ask(tr("%1 has changed on the disk since it was opened or saved here. Overwrite it?")
+                   .arg(strippedName(currentFile)),
+               QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
 bool MainWindow::saveAs()
@@ -114,6 +142,7 @@ bool MainWindow::saveFile(const QString &path)
     }
     setCurrentFile(path);
     EditorData::info.modified = false;
+    recoveryCopies.remove();
     updateWindowTitle();
     return true;
 }
@@ -135,18 +164,29 @@ QString MainWindow::strippedName(const QString &path)
     return QFileInfo(path).fileName();
 }
 
-// A Yes whose save dialog is then cancelled counts as Yes. One whose saving fails counts as Cancel:
-// to go on would lose what was to be saved.
+// A Yes whose save dialog is then cancelled counts as Yes. One whose saving fails, or is refused
+// when it asks, counts as Cancel: to go on would lose what was to be saved.
 unsigned int MainWindow::askSaveChanges()
+{
+    const int answer =
+        ask(tr("Save changes to %1?").arg(documentName()),
+            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
+    if (answer == QMessageBox::Yes && !save())
+        return QMessageBox::Cancel;
+    if (answer == QMessageBox::No)
+        recoveryCopies.remove();
+    return unsigned(answer);
+}
+
+// Answers the button, or NoButton if the editor is ended while the question is open.
+int MainWindow::ask(const QString &question, QMessageBox::StandardButtons buttons,
+                    QMessageBox::StandardButton preset)
 {
     QMessageBox box;
     box.setWindowTitle(cmpEditorTitle());
-    box.setText(tr("Save changes to %1?").arg(documentName()));
+    box.setText(question);
     box.setTextFormat(Qt::PlainText);
-    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
-    box.setDefaultButton(QMessageBox::Yes);
-    const int answer = box.exec();
-    if (answer == QMessageBox::Yes && !save())
-        return QMessageBox::Cancel;
-    return unsigned(answer);
+    box.setStandardButtons(buttons);
+    box.setDefaultButton(preset);
+    return box.exec();
 }

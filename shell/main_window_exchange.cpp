@@ -54,10 +54,12 @@ void MainWindow::importTexts()
         return;
     }
     if (!importTextsFrom(file, campaign)) {
+        keepRecoveryCopy();
         showCmpTextReadingError(path, file);
         return;
     }
     EditorData::info.modified = true;
+    keepRecoveryCopy();
     updateWindowTitle();
 }
 
@@ -82,11 +84,11 @@ void MainWindow::refreshMaps()
         warn(this, tr("Error"), text);
         cursor.emplace();
     });
+    EditorData::info.modified |= result.complete;
+    keepRecoveryCopy();
     cursor.reset();
-    if (!result.complete)
-        return;
-    EditorData::info.modified = true;
-    updateWindowTitle();
+    if (result.complete)
+        updateWindowTitle();
 }
 
 QString MainWindow::documentFolder() const

@@ -25,6 +25,7 @@ void MainWindow::showScenarioPropertiesDlg()
     campaign = std::move(dialog.editedCampaign());
     campaign.scenarioCount = quint32(campaign.scenarios.size());
     EditorData::info.region = dialog.getCurrentRegion();
+    keepRecoveryCopy();
     if (!campaign.hasMap)
         return;
     for (CampaignRegionItem *item : qAsConst(regionItems)) {

@@ -18,6 +18,7 @@
 #include <QDir>
 #include <QIcon>
 #include <QSplashScreen>
+#include <QTimer>
 
 #include <array>
 #include <csignal>
@@ -149,9 +150,13 @@ void preloadPattern(Session &)
     preloadArchive->preloadPcxImage16(QStringLiteral("cmpdash.pcx"));
 }
 
-void runEventLoop(Session &)
+// The first thing that the loop does is to ask about changes that another one has left. Who names
+// a file has other plans.
+void runEventLoop(Session &session)
 {
     const ExitSignals signalsOfTheSystem;
+    if (QCoreApplication::arguments().size() == 1)
+        QTimer::singleShot(0, session.window.get(), &MainWindow::offerRecoveryCopy);
     QApplication::exec();
 }
 

@@ -274,6 +274,14 @@
         <translation>Save changes to %1?</translation>
     </message>
     <message>
+        <source>%1 has changed on the disk since it was opened or saved here. Overwrite it?</source>
+        <translation>%1 has changed on the disk since it was opened or saved here. Overwrite it?</translation>
+    </message>
+    <message>
+        <source>Changes to %1 were not saved. Open the copy kept on %2?</source>
+        <translation>Changes to %1 were not saved. Open the copy kept on %2?</translation>
+    </message>
+    <message>
         <source>Unable to generate image</source>
         <translation>Unable to generate image</translation>
     </message>

@@ -274,6 +274,14 @@
         <translation>Сохранить изменения в %1?</translation>
     </message>
     <message>
+        <source>%1 has changed on the disk since it was opened or saved here. Overwrite it?</source>
+        <translation>Файл %1 изменился на диске с тех пор, как был открыт или сохранён здесь. Перезаписать его?</translation>
+    </message>
+    <message>
+        <source>Changes to %1 were not saved. Open the copy kept on %2?</source>
+        <translation>Изменения в %1 не были сохранены. Открыть копию от %2?</translation>
+    </message>
+    <message>
         <source>Unable to generate image</source>
         <translation>Не удаётся создать изображение</translation>
     </message>

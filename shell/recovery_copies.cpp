@@ -1,0 +1,137 @@
+#include "shell/recovery_copies.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <sys/stat.h>
+
+namespace {
+
+constexpr int basesTried = 100; // for copies of one second and one document
+
+} // namespace
+
+QString FoundCopy::documentName() const
+{
+    return origin.path.isEmpty() ? documentNameIn(file.base) : QFileInfo(origin.path).baseName();
+}
+
+QString RecoveryCopies::usualFolder()
+{
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    return data.isEmpty() ? QString() : data + QStringLiteral("/recovery");
+}
+
+RecoveryCopies::RecoveryCopies(QString folder) : m_folder(std::move(folder)) {}
+
+void RecoveryCopies::keep(const QString &documentName, const RecoveryOrigin &origin,
+                          const std::vector<QByteArray> &pieces)
+{
+    if (!makeFolder())
+        return;
+    const bool isNew = m_base.isEmpty();
+    if (isNew && !reserveName(documentName))
+        return;
+    auto written = replaceFile(m_path, pieces);
+    if (!written) {
+        if (isNew)
+            remove();
+        return;
+    }
+    m_lock = std::move(written);
+    if (!isNew)
+        return;
+    if (!origin.path.isEmpty())
+        writeOrigin(originPath(m_folder, m_base), origin);
+    removeOldest();
+}
+
+void RecoveryCopies::remove()
+{
+    if (m_base.isEmpty())
+        return;
+    QFile::remove(m_path);
+    QFile::remove(originPath(m_folder, m_base));
+    leave();
+}
+
+void RecoveryCopies::leave()
+{
+    m_lock.reset();
+    m_base.clear();
+    m_path.clear();
+}
+
+std::optional<FoundCopy> RecoveryCopies::newestToOffer() const
+{
+    const QVector<RecoveryFile> copies = recoveryFilesIn(m_folder);
+    for (const RecoveryFile &copy : copies) {
+        // An empty one is the name of a copy that was never written.
+        if (copy.offered || copy.size == 0)
+            continue;
+        if (auto lock = lockedFile(copy.path))
+            return FoundCopy{copy, readOrigin(originPath(m_folder, copy.base)), std::move(lock)};
+    }
+    return std::nullopt;
+}
+
+void RecoveryCopies::markOffered(FoundCopy &copy) const
+{
+    const QString marked = offeredPath(m_folder, copy.file.base);
+    if (QFile::rename(copy.file.path, marked))
+        copy.file.path = marked;
+}
+
+void RecoveryCopies::takeOver(FoundCopy copy)
+{
+    m_base = copy.file.base;
+    m_path = copyPath(m_folder, m_base);
+    if (!QFile::rename(copy.file.path, m_path))
+        m_path = copy.file.path;
+    m_lock = std::move(copy.lock);
+}
+
+bool RecoveryCopies::makeFolder() const
+{
+    if (m_folder.isEmpty() || !QDir().mkpath(QFileInfo(m_folder).path()))
+        return false;
+    const QByteArray path = QFile::encodeName(m_folder);
+    mkdir(path.constData(), S_IRWXU);
+    return chmod(path.constData(), S_IRWXU) == 0;
+}
+
+// Makes an empty file of a name that no copy has, so that two editors never take the same one.
+bool RecoveryCopies::reserveName(const QString &documentName)
+{
+    const QString plain = recoveryBase(documentName);
+    for (int number = 1; number <= basesTried; ++number) {
+        const QString base =
+            number == 1 ? plain : plain + QLatin1Char(' ') + QString::number(number);
+        if (QFile::exists(offeredPath(m_folder, base)))
+            continue;
+        auto file = std::make_unique<QFile>(copyPath(m_folder, base));
+        if (file->open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+            lockFile(*file);
+            m_base = base;
+            m_path = file->fileName();
+            m_lock = std::move(file);
+            return true;
+        }
+        if (!file->exists())
+            return false;
+    }
+    return false;
+}
+
+void RecoveryCopies::removeOldest() const
+{
+    const QVector<RecoveryFile> copies = recoveryFilesIn(m_folder);
+    for (int i = copiesKept; i < copies.size(); ++i) {
+        if (const auto lock = lockedFile(copies[i].path)) {
+            QFile::remove(copies[i].path);
+            QFile::remove(originPath(m_folder, copies[i].base));
+        }
+    }
+    removeRemains(m_folder);
+}

@@ -1,0 +1,483 @@
+// The folder of recovery copies: what they are called, who has them, which are offered, which go.
+#include "shell/recovery_copies.h"
+
+#include "tests/support/disk_faults.h"
+#include "tests/support/file_contents.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextCodec>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace {
+
+const RecoveryOrigin untitled;
+
+mode_t modeOf(const QString &path)
+{
+    struct stat status = {};
+    return stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
+}
+
+bool write(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+// Makes a file as old as that.
+bool age(const QString &path, int minutes)
+{
+    const timespec moment{time(nullptr) - 60 * minutes, 0};
+    const timespec times[] = {moment, moment};
+    return utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0) == 0;
+}
+
+// The folder's name is in front of the parts that matter.
+QString withoutTime(const QString &name)
+{
+    static const QRegularExpression time("^\\d{4}-\\d\\d-\\d\\d \\d\\d-\\d\\d-\\d\\d ");
+    return time.match(name).hasMatch() ? name.mid(20) : "no time in " + name;
+}
+
+} // namespace
+
+class RecoveryCopiesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8")); }
+
+    void usualFolderIsInTheUsersData();
+    void copyHoldsThePiecesInOrder();
+    void laterOneTakesThePlaceOfTheFirst();
+    void nameTellsWhenAndWhat();
+    void namesOfDocumentsAreMadeHarmless_data();
+    void namesOfDocumentsAreMadeHarmless();
+    void namesAreKeptPlainInOtherEncodings();
+    void removeLeavesNothing();
+    void leftCopyStaysAndTheNextDocumentHasItsOwn();
+    void originComesBack();
+    void damagedNoteIsNoOrigin_data();
+    void damagedNoteIsNoOrigin();
+    void newestIsOfferedFirstAndNoneTwice();
+    void nothingIsOfferedFromNowhere();
+    void emptyAndForeignFilesAreNotOffered();
+    void copyOfARunningEditorIsNotOffered();
+    void copyIsOfferedToOneEditorAtATime();
+    void editorsOfOneMomentHaveTwoCopies();
+    void takenOverCopyIsTheDocumentsOwn();
+    void tenNewestStay();
+    void copyOfARunningEditorIsNeverDrivenOut();
+    void authorsOwnFilesStay();
+    void remainsOfKilledEditorsGo();
+    void failedRenewalKeepsTheOldCopy();
+    void failedFirstCopyLeavesNothing();
+    void placeThatCantBeWrittenIsNoTrouble();
+    void folderAndFilesArePrivate();
+
+private:
+    QString path(const QString &name) const { return folder + '/' + name; }
+    QStringList files() const
+    {
+        return QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    }
+    // Leaves a copy with this content that is as old as that.
+    void leaveCopy(const QString &document, int minutes, const RecoveryOrigin &origin = {});
+    static QByteArray offeredBy(const RecoveryCopies &copies);
+
+    std::unique_ptr<QTemporaryDir> home;
+    QString folder;
+};
+
+void RecoveryCopiesTest::init()
+{
+    cleanup();
+    home = std::make_unique<QTemporaryDir>();
+    folder = home->filePath("data/recovery");
+}
+
+void RecoveryCopiesTest::leaveCopy(const QString &document, int minutes,
+                                   const RecoveryOrigin &origin)
+{
+    RecoveryCopies copies(folder);
+    const QStringList before = files();
+    copies.keep(document, origin, {document.toUtf8()});
+    const QStringList after = files();
+    for (const QString &name : after) {
+        if (!before.contains(name))
+            QVERIFY(age(path(name), minutes));
+    }
+}
+
+// The content of the copy that is offered; nothing if none is. It counts as offered then.
+QByteArray RecoveryCopiesTest::offeredBy(const RecoveryCopies &copies)
+{
+    auto copy = copies.newestToOffer();
+    if (!copy)
+        return {};
+    const QByteArray bytes = contents(copy->file.path);
+    copies.markOffered(*copy);
+    return bytes;
+}
+
+void RecoveryCopiesTest::usualFolderIsInTheUsersData()
+{
+    qputenv("XDG_DATA_HOME", QFile::encodeName(home->path()));
+    QCOMPARE(RecoveryCopies::usualFolder(), home->filePath("recovery_copies_test/recovery"));
+}
+
+void RecoveryCopiesTest::copyHoldsThePiecesInOrder()
+{
+    RecoveryCopies copies(folder);
+    copies.keep("harbour", untitled, {"one", "", "two", QByteArray(100000, 'x')});
+    QCOMPARE(files().size(), 1);
+    QCOMPARE(contents(path(files()[0])), "onetwo" + QByteArray(100000, 'x'));
+}
+
+void RecoveryCopiesTest::laterOneTakesThePlaceOfTheFirst()
+{
+    RecoveryCopies copies(folder);
+    copies.keep("harbour", untitled, {"a long first one"});
+    const QStringList first = files();
+    copies.keep("harbour", untitled, {"second"});
+    QCOMPARE(files(), first);
+    QCOMPARE(contents(path(first[0])), QByteArray("second"));
+}
+
+void RecoveryCopiesTest::nameTellsWhenAndWhat()
+{
+    const QString format = "yyyy-MM-dd HH-mm-ss";
+    const QString before = QDateTime::currentDateTime().toString(format);
+    RecoveryCopies copies(folder);
+    copies.keep("Old harbour (2)", untitled, {"x"});
+    const QString after = QDateTime::currentDateTime().toString(format);
+    const QString name = files().value(0);
+    QCOMPARE(withoutTime(name), QString("Old harbour (2).e3c"));
+    QVERIFY(before <= name.left(19) && name.left(19) <= after);
+}
+
+void RecoveryCopiesTest::namesOfDocumentsAreMadeHarmless_data()
+{
+    QTest::addColumn<QString>("document");
+    QTest::addColumn<QString>("name");
+    const QString pine = QString::fromUtf8("ёлка");
+    const QChar half(0xD83C);
+    QTest::newRow("letters of any script") << pine << pine;
+    QTest::newRow("folders") << "../a/b\\c"
+                             << "___a_b_c";
+    QTest::newRow("dots") << ".."
+                          << "__";
+    QTest::newRow("another ending") << "a.offered"
+                                    << "a_offered";
+    QTest::newRow("empty") << ""
+                           << "Untitled";
+    QTest::newRow("blanks") << " \t\n "
+                            << "Untitled";
+    QTest::newRow("blanks around and in") << " a \n\n b "
+                                          << "a b";
+    QTest::newRow("signs of shells and formats") << "a*?\"<>|%1:&;$`b"
+                                                 << "a_______1_____b";
+    QTest::newRow("zero and others that can't be seen")
+        << QString("a") + QChar(0) + QChar(7) + QChar(0x202E) + "b"
+        << "a___b";
+    QTest::newRow("half a letter") << QString("a") + half + "b"
+                                   << "a_b";
+    QTest::newRow("a picture") << QString::fromUtf8("a\xF0\x9F\x8C\xB2") << "a_";
+    QTest::newRow("long") << QString(500, 'n') << QString(80, 'n');
+    QTest::newRow("long, two bytes a letter") << pine.repeated(100) << pine.repeated(10);
+    QTest::newRow("long, with a letter at the edge") << QString(79, 'n') + pine << QString(79, 'n');
+}
+
+void RecoveryCopiesTest::namesOfDocumentsAreMadeHarmless()
+{
+    QFETCH(QString, document);
+    QFETCH(QString, name);
+    RecoveryCopies copies(folder);
+    copies.keep(document, untitled, {"x"});
+    QCOMPARE(files().size(), 1);
+    QCOMPARE(withoutTime(files()[0]), name + ".e3c");
+    copies.leave();
+    QCOMPARE(copies.newestToOffer()->documentName(), name);
+    QCOMPARE(offeredBy(copies), QByteArray("x"));
+    QCOMPARE(withoutTime(files()[0]), name + ".offered.e3c");
+    QCOMPARE(offeredBy(copies), QByteArray());
+}
+
+// An editor for texts of Windows has file names in that encoding too, which lacks most letters.
+void RecoveryCopiesTest::namesAreKeptPlainInOtherEncodings()
+{
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("windows-1251"));
+    RecoveryCopies copies(folder);
+    copies.keep(QString::fromUtf8("a ёлка"), untitled, {"x"});
+    copies.leave();
+    QCOMPARE(withoutTime(files().value(0)), QString("a ____.e3c"));
+    QCOMPARE(offeredBy(copies), QByteArray("x"));
+}
+
+void RecoveryCopiesTest::removeLeavesNothing()
+{
+    RecoveryCopies copies(folder);
+    copies.remove();
+    copies.keep("harbour", {"/campaigns/harbour.e3c", {}}, {"x"});
+    QCOMPARE(files().size(), 2);
+    copies.remove();
+    QCOMPARE(files(), QStringList());
+}
+
+void RecoveryCopiesTest::leftCopyStaysAndTheNextDocumentHasItsOwn()
+{
+    RecoveryCopies copies(folder);
+    copies.keep("first", untitled, {"one"});
+    copies.leave();
+    copies.keep("second", untitled, {"two"});
+    QCOMPARE(files().size(), 2);
+    copies.remove();
+    QCOMPARE(files().size(), 1);
+    QCOMPARE(contents(path(files()[0])), QByteArray("one"));
+}
+
+void RecoveryCopiesTest::originComesBack()
+{
+    const RecoveryOrigin origin{QString::fromUtf8("/campaigns/\"старая\" гавань.v2.e3c"),
+                                {true, 1, ~quint64(0), 1LL << 40, 1600000000123456789}};
+    leaveCopy("harbour", 0, origin);
+    const auto copy = RecoveryCopies(folder).newestToOffer();
+    QVERIFY(copy);
+    QCOMPARE(copy->origin.path, origin.path);
+    QVERIFY(copy->origin.stamp == origin.stamp);
+    QCOMPARE(copy->documentName(), QString::fromUtf8("\"старая\" гавань"));
+}
+
+void RecoveryCopiesTest::damagedNoteIsNoOrigin_data()
+{
+    QTest::addColumn<QByteArray>("note");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("no note") << QByteArray("\x1f\x8b\0\xff", 4);
+    QTest::newRow("cut off") << QByteArray("{\"file\": \"/a.e3c\", \"sta");
+    QTest::newRow("without a state") << QByteArray("{\"file\": \"/a.e3c\"}");
+    QTest::newRow("of other types") << QByteArray("{\"file\": [1], \"state\": {}}");
+    QTest::newRow("endless") << QByteArray(1 << 20, '[');
+}
+
+void RecoveryCopiesTest::damagedNoteIsNoOrigin()
+{
+    QFETCH(QByteArray, note);
+    leaveCopy("harbour", 0, {"/a.e3c", {}});
+    const QString name = files().filter(".origin").value(0);
+    QVERIFY(write(path(name), note));
+    const auto copy = RecoveryCopies(folder).newestToOffer();
+    QVERIFY(copy);
+    QCOMPARE(copy->origin.path, QString());
+    QVERIFY(!copy->origin.stamp.exists);
+    QCOMPARE(copy->documentName(), QString("harbour"));
+}
+
+void RecoveryCopiesTest::newestIsOfferedFirstAndNoneTwice()
+{
+    leaveCopy("middle", 20);
+    leaveCopy("newest", 10);
+    leaveCopy("oldest", 30);
+    for (const QByteArray name : {"newest", "middle", "oldest"})
+        QCOMPARE(offeredBy(RecoveryCopies(folder)), name);
+    QCOMPARE(offeredBy(RecoveryCopies(folder)), QByteArray());
+    QCOMPARE(files().size(), 3);
+    leaveCopy("one more", 40);
+    QCOMPARE(offeredBy(RecoveryCopies(folder)), QByteArray("one more"));
+}
+
+void RecoveryCopiesTest::nothingIsOfferedFromNowhere()
+{
+    QVERIFY(!RecoveryCopies(folder).newestToOffer());
+    QVERIFY(!QFileInfo::exists(folder));
+    QVERIFY(!RecoveryCopies(QString()).newestToOffer());
+}
+
+void RecoveryCopiesTest::emptyAndForeignFilesAreNotOffered()
+{
+    QVERIFY(QDir().mkpath(path("2026-03-14 15-09-26 a folder.e3c")));
+    QVERIFY(write(path("2026-03-14 15-09-26 empty.e3c"), ""));
+    QVERIFY(write(path("2026-03-14 15-09-26 other.e3m"), "x"));
+    QVERIFY(write(path("mine.e3c"), "x"));
+    QVERIFY(write(path("2026-03-14 mine.e3c"), "x"));
+    QVERIFY(QFile::link(path("mine.e3c"), path("2026-03-14 15-09-26 a link.e3c")));
+    QVERIFY(!RecoveryCopies(folder).newestToOffer());
+}
+
+void RecoveryCopiesTest::copyOfARunningEditorIsNotOffered()
+{
+    leaveCopy("left", 10);
+    auto running = std::make_unique<RecoveryCopies>(folder);
+    running->keep("running", untitled, {"running"});
+    running->keep("running", untitled, {"running on"});
+    QCOMPARE(offeredBy(RecoveryCopies(folder)), QByteArray("left"));
+    QCOMPARE(offeredBy(RecoveryCopies(folder)), QByteArray());
+    running.reset();
+    QCOMPARE(offeredBy(RecoveryCopies(folder)), QByteArray("running on"));
+}
+
+void RecoveryCopiesTest::copyIsOfferedToOneEditorAtATime()
+{
+    leaveCopy("left", 10);
+    auto asked = RecoveryCopies(folder).newestToOffer();
+    QVERIFY(asked);
+    QVERIFY(!RecoveryCopies(folder).newestToOffer());
+    asked.reset(); // it ended before it had an answer
+    QVERIFY(RecoveryCopies(folder).newestToOffer());
+}
+
+void RecoveryCopiesTest::editorsOfOneMomentHaveTwoCopies()
+{
+    std::vector<std::unique_ptr<RecoveryCopies>> editors;
+    for (int i = 0; i < 5; ++i) {
+        editors.push_back(std::make_unique<RecoveryCopies>(folder));
+        editors.back()->keep("harbour", untitled, {QByteArray::number(i)});
+    }
+    QCOMPARE(files().size(), 5);
+    QByteArrayList found;
+    for (const QString &name : files())
+        found << contents(path(name));
+    std::sort(found.begin(), found.end());
+    QCOMPARE(found, QByteArrayList({"0", "1", "2", "3", "4"}));
+}
+
+void RecoveryCopiesTest::takenOverCopyIsTheDocumentsOwn()
+{
+    leaveCopy("harbour", 10, {"/a.e3c", {}});
+    {
+        RecoveryCopies copies(folder);
+        auto copy = copies.newestToOffer();
+        QVERIFY(copy);
+        copies.markOffered(*copy);
+        copies.takeOver(std::move(*copy));
+        QVERIFY(!RecoveryCopies(folder).newestToOffer()); // its editor runs
+        copies.keep("harbour", {"/a.e3c", {}}, {"on"});
+        QCOMPARE(files().size(), 2);
+    }
+    RecoveryCopies copies(folder);
+    auto again = copies.newestToOffer();
+    QVERIFY(again);
+    QCOMPARE(contents(again->file.path), QByteArray("on"));
+    QCOMPARE(again->origin.path, QString("/a.e3c"));
+    copies.takeOver(std::move(*again));
+    copies.remove();
+    QCOMPARE(files(), QStringList());
+}
+
+void RecoveryCopiesTest::tenNewestStay()
+{
+    for (int i = 0; i < 12; ++i)
+        leaveCopy("copy" + QString::number(i), i % 2 ? 100 + i : 200 + i, {"/a.e3c", {}});
+    offeredBy(RecoveryCopies(folder));
+    leaveCopy("last", 0);
+    QStringList left;
+    for (const QString &name : files().filter(".e3c"))
+        left << contents(path(name));
+    left.sort();
+    QCOMPARE(left, QStringList({"copy0", "copy1", "copy11", "copy2", "copy3", "copy4", "copy5",
+                                "copy7", "copy9", "last"}));
+    QCOMPARE(files().filter(".origin").size(), 9);
+}
+
+void RecoveryCopiesTest::copyOfARunningEditorIsNeverDrivenOut()
+{
+    RecoveryCopies running(folder);
+    running.keep("running", untitled, {"running"});
+    const QString name = files().value(0);
+    QVERIFY(age(path(name), 1000));
+    for (int i = 0; i < 12; ++i)
+        leaveCopy("copy", i);
+    QCOMPARE(contents(path(name)), QByteArray("running"));
+    QCOMPARE(files().size(), 11);
+}
+
+void RecoveryCopiesTest::authorsOwnFilesStay()
+{
+    QVERIFY(QDir().mkpath(folder));
+    const QStringList own{"2026-03-14 15-09-26 harbour.e3m", "a.origin.txt", "harbour.e3c"};
+    for (const QString &name : own)
+        QVERIFY(write(path(name), "x") && age(path(name), 100000));
+    for (int i = 0; i < 12; ++i)
+        leaveCopy("copy", i);
+    for (const QString &name : own)
+        QVERIFY(QFile::exists(path(name)));
+    QCOMPARE(files().size(), 13);
+}
+
+void RecoveryCopiesTest::remainsOfKilledEditorsGo()
+{
+    QVERIFY(QDir().mkpath(folder));
+    QVERIFY(write(path("2026-03-14 15-09-26 gone.origin"), "{}"));
+    QVERIFY(write(path(".unfinished-abcdef"), "x") && age(path(".unfinished-abcdef"), 25 * 60));
+    QVERIFY(write(path(".unfinished-ghijkl"), "x") && age(path(".unfinished-ghijkl"), 23 * 60));
+    leaveCopy("harbour", 0);
+    QCOMPARE(files().size(), 2);
+    QVERIFY(files().contains(".unfinished-ghijkl"));
+}
+
+void RecoveryCopiesTest::failedRenewalKeepsTheOldCopy()
+{
+    RecoveryCopies copies(folder);
+    copies.keep("harbour", untitled, {"short"});
+    const QStringList before = files();
+    {
+        const FileSizeLimit limit(20);
+        copies.keep("harbour", untitled, {"this is ", "longer than allowed"});
+        QCOMPARE(files(), before);
+        QCOMPARE(contents(path(before[0])), QByteArray("short"));
+    }
+    copies.keep("harbour", untitled, {"this is ", "longer than allowed"});
+    QCOMPARE(files(), before);
+    QCOMPARE(contents(path(before[0])), QByteArray("this is longer than allowed"));
+}
+
+void RecoveryCopiesTest::failedFirstCopyLeavesNothing()
+{
+    RecoveryCopies copies(folder);
+    {
+        const FileSizeLimit limit(20);
+        copies.keep("harbour", untitled, {"this is longer than allowed"});
+    }
+    QCOMPARE(files(), QStringList());
+    copies.keep("harbour", untitled, {"this is longer than allowed"});
+    QCOMPARE(files().size(), 1);
+}
+
+void RecoveryCopiesTest::placeThatCantBeWrittenIsNoTrouble()
+{
+    QVERIFY(write(home->filePath("data"), "a file"));
+    RecoveryCopies copies(folder);
+    copies.keep("harbour", untitled, {"x"});
+    QVERIFY(!copies.newestToOffer());
+    copies.remove();
+    copies.leave();
+    QCOMPARE(contents(home->filePath("data")), QByteArray("a file"));
+    RecoveryCopies nowhere{QString()};
+    nowhere.keep("harbour", untitled, {"x"});
+    QVERIFY(!nowhere.newestToOffer());
+}
+
+void RecoveryCopiesTest::folderAndFilesArePrivate()
+{
+    QVERIFY(QDir().mkpath(folder));
+    QVERIFY(QFile::setPermissions(folder, QFile::Permissions(0x7777)));
+    const mode_t mask = umask(0);
+    RecoveryCopies copies(folder);
+    copies.keep("harbour", {"/a.e3c", {}}, {"x"});
+    copies.keep("harbour", {"/a.e3c", {}}, {"y"});
+    umask(mask);
+    QCOMPARE(modeOf(folder), mode_t(0700));
+    QCOMPARE(files().size(), 2);
+    for (const QString &name : files())
+        QCOMPARE(modeOf(path(name)), mode_t(0600));
+}
+
+QTEST_GUILESS_MAIN(RecoveryCopiesTest)
+#include "recovery_copies_test.moc"
