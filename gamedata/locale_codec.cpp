@@ -1,5 +1,7 @@
 #include "gamedata/locale_codec.h"
 
+#include "gamedata/escaped_utf8.h"
+
 #include <QTextCodec>
 
 #include <algorithm>
@@ -41,6 +43,6 @@ bool setLocaleCodec(const QString &name)
         name.isEmpty() ? codecOfSystem() : QTextCodec::codecForName(name.toLatin1());
     if (!codec || !keepsAscii(*codec))
         return false;
-    QTextCodec::setCodecForLocale(codec);
+    QTextCodec::setCodecForLocale(isUtf8(*codec) ? escapedUtf8Codec() : codec);
     return true;
 }

@@ -3,6 +3,7 @@
 //
 // Qt may be built so that it takes UTF-8 whatever the locale says, while files made with the game
 // are often in a Windows code page. So each program sets the codec once, before anything is read.
+// UTF-8 is set as gamedata/escaped_utf8.h has it: a file whose name is no UTF-8 is still that file.
 #pragma once
 
 #include <QString>

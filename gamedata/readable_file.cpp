@@ -1,9 +1,15 @@
 #include "gamedata/readable_file.h"
 
+#include "gamedata/file_name.h"
+
+#include <cerrno>
+
 #include <sys/stat.h>
 
 std::optional<QString> openToRead(QFile &file)
 {
+    if (!namesOneFile(file.fileName()))
+        return qt_error_string(EILSEQ);
     struct stat now = {};
     const bool there = stat(QFile::encodeName(file.fileName()).constData(), &now) == 0;
     // Of a folder the file itself tells.

@@ -1,5 +1,6 @@
 #include "gamedata/safe_save.h"
 
+#include "gamedata/file_name.h"
 #include "gamedata/second_file.h"
 
 #include <QFile>

@@ -1,5 +1,6 @@
 #include "gamedata/used_folder.h"
 
+#include "gamedata/escaped_utf8.h"
 #include "gamedata/ini_file.h"
 
 #include <QFileInfo>
@@ -13,12 +14,12 @@ constexpr const char *pathKey = "Path";
 
 QString usedFolder(const QString &otherwise)
 {
-    const QString used = QString::fromUtf8(ini->GetStringVal(editorSection, pathKey, ""));
+    const QString used = textFromUtf8(ini->GetStringVal(editorSection, pathKey, ""));
     return used.isEmpty() ? otherwise : used;
 }
 
 void rememberFolderOf(const QString &file)
 {
-    const QByteArray folder = QFileInfo(file).absolutePath().toUtf8();
+    const QByteArray folder = utf8FromText(QFileInfo(file).absolutePath());
     ini->SetStringVal(editorSection, pathKey, folder.constData());
 }

@@ -2,6 +2,7 @@
 #include "document/campaign_data.h"
 #include "document/map_file_name.h"
 #include "document/prerequisites.h"
+#include "gamedata/file_name.h"
 #include "gamedata/game_dir.h"
 #include "gamedata/readable_file.h"
 #include "gamedata/used_folder.h"
@@ -34,6 +35,8 @@ void releaseMap(ScenarioData &scenario, std::size_t scenarioCount)
 // Tells a place where nothing can be written, of which nothing is said, from a disk that is full.
 bool canBeOpened(const QString &path)
 {
+    if (!namesOneFile(path))
+        return false;
     QFile file(path);
     const bool existed = file.exists();
     const bool opened = file.open(QIODevice::ReadWrite);

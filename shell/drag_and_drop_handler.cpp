@@ -1,9 +1,23 @@
 #include "shell/drag_and_drop_handler.h"
 
 #include <QDragEnterEvent>
+#include <QFile>
 #include <QGraphicsSceneDragDropEvent>
 #include <QMimeData>
 #include <QUrl>
+
+namespace {
+
+// A name on the disk is bytes, which needn't be UTF-8 as Qt takes those of an address to be.
+QString localPath(const QUrl &url)
+{
+    if (!url.isLocalFile() || !url.host().isEmpty())
+        return url.toLocalFile();
+    const QByteArray path = url.path(QUrl::FullyEncoded).toLatin1();
+    return QFile::decodeName(QByteArray::fromPercentEncoding(path));
+}
+
+} // namespace
 
 DragAndDropHandler::DragAndDropHandler(QObject *parent) : QObject(parent) {}
 
@@ -56,7 +70,7 @@ void DragAndDropHandler::handleDrop(QGraphicsSceneDragDropEvent *event)
 QString DragAndDropHandler::getUrlFromMimeData(const QMimeData *data)
 {
     const QList<QUrl> urls = data->urls();
-    return urls.isEmpty() ? QString() : urls.first().toLocalFile();
+    return urls.isEmpty() ? QString() : localPath(urls.first());
 }
 
 void DragAndDropHandler::tellDroppedFile(const QMimeData *data)
