@@ -5,6 +5,7 @@
 #include "cli/standard_output.h"
 #include "document/campaign_data.h"
 #include "gamedata/game_loading.h"
+#include "gamedata/readable_file.h"
 #include "gamedata/report.h"
 
 #include <QFile>
@@ -12,9 +13,8 @@
 ExitStatus readCampaignFile(const QString &path, CampaignData &campaign)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return failed(mainWindowText("Cannot read file %1:\n%2.").arg(path, file.errorString()));
-    }
+    if (const std::optional<QString> failure = openToRead(file))
+        return failed(mainWindowText("Cannot read file %1:\n%2.").arg(path, *failure));
     const std::optional<QString> error = campaign.readCampaign(&file);
     return error ? failed(*error) : exitDone;
 }
