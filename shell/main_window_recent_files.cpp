@@ -33,6 +33,7 @@ void MainWindow::setCurrentFile(const QString &path)
 {
     currentFile = path;
     currentFileStamp = stampOf(path);
+    currentFileStamp = stampOf(path);
     setWindowFilePath(path);
     QSettings settings(organization(), QString());
     QStringList files = settings.value(listKey()).toStringList();
