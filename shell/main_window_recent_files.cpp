@@ -1,6 +1,5 @@
 // The list of recent files, kept in the user's settings, and its actions in the menu.
 #include "shell/main_window.h"
-#include "shell/shown_text.h"
 
 #include <QAction>
 #include <QApplication>
@@ -20,11 +19,10 @@ QString organization()
     return QStringLiteral("cmped_info");
 }
 
-// A text as a menu shows it: a single "&" would underline the letter behind it, and what follows a
-// tabulator would stand where shortcuts do.
-QString forMenu(const QString &text)
+// A text as a menu shows it: a single "&" would underline the letter behind it.
+QString forMenu(QString text)
 {
-    return inOneLine(text).replace(QLatin1Char('&'), QLatin1String("&&"));
+    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
 } // namespace
@@ -32,7 +30,6 @@ QString forMenu(const QString &text)
 void MainWindow::setCurrentFile(const QString &path)
 {
     currentFile = path;
-    currentFileStamp = stampOf(path);
     currentFileStamp = stampOf(path);
     setWindowFilePath(path);
     QSettings settings(organization(), QString());
