@@ -8,6 +8,7 @@
 #include "shell/choice_box.h"
 #include "shell/dialog_look.h"
 #include "shell/mss_info.h"
+#include "shell/shown_text.h"
 #include "ui_EditCampaign.h"
 
 #include <QDebug>
@@ -111,8 +112,8 @@ void EditCampaign::fillMusic()
 
 void EditCampaign::fillTexts()
 {
-    ui->nameEdit->setPlainText(campaign->name);
-    ui->descriptionEdit->setPlainText(campaign->description);
+    ui->nameEdit->setPlainText(headOf(campaign->name, longestName));
+    ui->descriptionEdit->setPlainText(headOf(campaign->description, longestDescription));
     loadedName = ui->nameEdit->toPlainText();
     loadedDescription = ui->descriptionEdit->toPlainText();
 }

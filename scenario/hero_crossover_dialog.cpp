@@ -6,6 +6,7 @@
 #include "scenario/option_dialog.h"
 #include "scenario/option_page.h"
 #include "shell/choice_box.h"
+#include "shell/shown_text.h"
 #include "ui_HeroCrossoverDialog.h"
 
 #include <algorithm>
@@ -15,7 +16,7 @@ void showHeroCrossover(QTableWidget *table, int row, CampaignData *campaign,
                        unsigned int campaignMap, const CmpHeroCrossover &option)
 {
     setRowRecord(table, row, option,
-                 {getScenarioName(campaign, campaignMap, option.sourceScenario),
+                 {inOneLine(getScenarioName(campaign, campaignMap, option.sourceScenario)),
                   getFullPlayerName(option.player)});
 }
 
@@ -53,7 +54,7 @@ void HeroCrossoverDialog::addSources(const QTableWidget *table, const QTableWidg
 {
     const std::set<int> used = valuesInRows(table, &CmpHeroCrossover::sourceScenario, item);
     for (const int source : freeSources(*scenario, used)) {
-        const QString name = getScenarioName(campaign, campaignMap, unsigned(source));
+        const QString name = inOneLine(getScenarioName(campaign, campaignMap, unsigned(source)));
         ui->scenarioCombobox->addItem(name, source);
     }
 }

@@ -3,6 +3,7 @@
 #include "document/campaign_data.h"
 #include "gamedata/editor_data.h"
 #include "scenario/map_player.h"
+#include "shell/shown_text.h"
 
 #include <QComboBox>
 #include <QObject>
@@ -50,7 +51,7 @@ QString getHeroName(ScenarioData *scenario, unsigned int player, unsigned short 
             if (info.heroId != hero)
                 continue;
             if (!info.name.isEmpty())
-                return info.name + mapPlace;
+                return inOneLine(info.name) + mapPlace;
             onMap = true;
         }
     }

@@ -4,6 +4,7 @@
 #include "gamedata/editor_data.h"
 #include "scenario/scenario_host.h"
 #include "shell/choice_box.h"
+#include "shell/shown_text.h"
 #include "ui_scenarioGeneral.h"
 
 #include <array>
@@ -71,7 +72,7 @@ void ScenarioGeneral::loadRegion()
     const QVector<CampaignRegion> &regions = EditorData::campaignMap(campaignMap).regions;
     ui->regionNameLabelMain->setText(region < unsigned(regions.size()) ? regions[int(region)].name
                                                                        : QString());
-    ui->regionTextEdit->setPlainText(scenario->regionText);
+    ui->regionTextEdit->setPlainText(headOf(scenario->regionText, longestRegionText));
     loadedText = ui->regionTextEdit->toPlainText();
 }
 

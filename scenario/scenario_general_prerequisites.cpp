@@ -4,6 +4,7 @@
 #include "document/prerequisites.h"
 #include "scenario/naming.h"
 #include "scenario/scenario_general.h"
+#include "shell/shown_text.h"
 #include "ui_scenarioGeneral.h"
 
 namespace {
@@ -55,7 +56,7 @@ QListWidgetItem *ScenarioGeneral::prerequisiteItem(unsigned int index,
     const bool implied = !direct && required.testBit(int(index));
     if (!direct && !implied && isReferencedBy(campaign, region, index))
         return nullptr;
-    auto *item = new QListWidgetItem(getScenarioName(campaign, campaignMap, index));
+    auto *item = new QListWidgetItem(inOneLine(getScenarioName(campaign, campaignMap, index)));
     item->setData(indexRole, index);
     item->setFlags((item->flags() & ~Qt::ItemIsDragEnabled) | Qt::ItemIsUserCheckable);
     item->setCheckState(Qt::Unchecked);

@@ -6,6 +6,7 @@
 #include "scenario/scenario_prologue.h"
 #include "scenario/scenario_start_options.h"
 #include "shell/dialog_look.h"
+#include "shell/shown_text.h"
 #include "ui_ScenarioInfo.h"
 
 namespace {
@@ -179,7 +180,8 @@ void ScenarioInfo::updateCurrentItem()
 
 void ScenarioInfo::resetItemText(QListWidgetItem *item)
 {
-    item->setText(getScenarioFilename(&campaign, campaignMap, item->data(Qt::UserRole).toUInt()));
+    const unsigned int index = item->data(Qt::UserRole).toUInt();
+    item->setText(inOneLine(getScenarioFilename(&campaign, campaignMap, index)));
 }
 
 // The tab with the map stays as it is in both: it is there that maps come and go.

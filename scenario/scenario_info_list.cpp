@@ -4,6 +4,7 @@
 #include "scenario/ask_delete_all.h"
 #include "scenario/naming.h"
 #include "scenario/scenario_info.h"
+#include "shell/shown_text.h"
 #include "ui_ScenarioInfo.h"
 
 #include <algorithm>
@@ -23,7 +24,7 @@ void ScenarioInfo::fillList()
     const auto count = unsigned(campaign.scenarios.size());
     list.setUniformItemSizes(count > longList);
     for (unsigned int i = 0; i < count; ++i) {
-        auto *item = new QListWidgetItem(getScenarioFilename(&campaign, campaignMap, i));
+        auto *item = new QListWidgetItem(inOneLine(getScenarioFilename(&campaign, campaignMap, i)));
         item->setData(Qt::UserRole, int(i));
         list.addItem(item);
     }

@@ -3,6 +3,7 @@
 #include "gamedata/editor_data.h"
 #include "scenario/scenario_host.h"
 #include "shell/choice_box.h"
+#include "shell/shown_text.h"
 #include "ui_ScenarioPrologue.h"
 
 #include <algorithm>
@@ -108,7 +109,7 @@ void ScenarioPrologue::loadStory()
     setMovieImage(nameOf(EditorData::movieImages, story->videoId));
     selectVideo(story->videoId);
     selectMusic(story->musicIndex);
-    ui->textEdit->setPlainText(story->text);
+    setEditedText(ui->textEdit, story->text);
     videoChosen = false;
     musicChosen = false;
     loadedText = ui->textEdit->toPlainText();

@@ -2,15 +2,16 @@
 // may be of any length.
 #pragma once
 
+#include "shell/shown_text.h"
+
 #include <QAbstractItemView>
 #include <QHelpEvent>
 #include <QToolTip>
 
-// Said to be rich, for otherwise a name with markup in it would be taken for that. What isn't cut
-// has no tool tip.
+// What isn't cut has no tool tip.
 inline void tellWholeText(const QString &text, bool cut, const QHelpEvent &event, QWidget *widget)
 {
-    const QString whole = cut ? QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped()) : QString();
+    const QString whole = cut ? plainToolTip(text) : QString();
     QToolTip::showText(event.globalPos(), whole, widget);
 }
 

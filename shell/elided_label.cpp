@@ -1,5 +1,7 @@
 #include "shell/elided_label.h"
 
+#include "shell/shown_text.h"
+
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
@@ -16,6 +18,17 @@ void ElidedLabel::setWidestRequest(int width)
     updateGeometry();
 }
 
+// Of a text that is shown as it is, the label itself tells.
+QSize ElidedLabel::sizeHint() const
+{
+    const QString line = inOneLine(text());
+    if (line == text())
+        return QLabel::sizeHint();
+    const QMargins margins = contentsMargins();
+    return {fontMetrics().horizontalAdvance(line) + margins.left() + margins.right(),
+            fontMetrics().height() + margins.top() + margins.bottom()};
+}
+
 QSize ElidedLabel::minimumSizeHint() const
 {
     const QSize whole = sizeHint();
@@ -26,10 +39,7 @@ bool ElidedLabel::event(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip)
         return QLabel::event(event);
-    // Said to be rich, for otherwise a name with markup in it would be taken for that.
-    const QString whole = shownText() == text()
-                              ? QString()
-                              : QStringLiteral("<qt>%1</qt>").arg(text().toHtmlEscaped());
+    const QString whole = shownText() == text() ? QString() : plainToolTip(text());
     QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), whole, this);
     return true;
 }
@@ -48,5 +58,5 @@ void ElidedLabel::paintEvent(QPaintEvent *event)
 
 QString ElidedLabel::shownText() const
 {
-    return fontMetrics().elidedText(text(), Qt::ElideRight, width());
+    return fontMetrics().elidedText(inOneLine(text()), Qt::ElideRight, width());
 }

@@ -13,6 +13,7 @@ public:
 
     // In pixels; a longer text is content with this.
     void setWidestRequest(int width);
+    QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 protected:

@@ -8,12 +8,14 @@
 #include "shell/dialog_look.h"
 #include "shell/drag_and_drop_handler.h"
 #include "shell/elided_label.h"
+#include "shell/plain_tool_tips.h"
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QShortcut>
+#include <QToolButton>
 
 #include <algorithm>
 
@@ -174,6 +176,10 @@ void MainWindow::setToolTips()
 {
     for (const ToolTipRow &row : toolTipRows)
         (ui.get()->*row.action)->setToolTip(textOf(EditorData::editorCmdText, row.row));
+    auto *plain = new PlainToolTips(this);
+    const auto buttons = ui->toolBar->findChildren<QToolButton *>();
+    for (QToolButton *button : buttons)
+        button->installEventFilter(plain);
 }
 
 void MainWindow::switchScrollBars(Qt::ScrollBarPolicy policy)

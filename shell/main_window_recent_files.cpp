@@ -1,5 +1,6 @@
 // The list of recent files, kept in the user's settings, and its actions in the menu.
 #include "shell/main_window.h"
+#include "shell/shown_text.h"
 
 #include <QAction>
 #include <QApplication>
@@ -19,10 +20,11 @@ QString organization()
     return QStringLiteral("cmped_info");
 }
 
-// A text as a menu shows it: a single "&" would underline the letter behind it.
-QString forMenu(QString text)
+// A text as a menu shows it: a single "&" would underline the letter behind it, and what follows a
+// tabulator would stand where shortcuts do.
+QString forMenu(const QString &text)
 {
-    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+    return inOneLine(text).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "shell/message_reporter.h"
 
 #include "gamedata/report.h"
+#include "shell/shown_text.h"
 
 #include <QGuiApplication>
 #include <QMessageBox>
@@ -33,7 +34,7 @@ private:
 void showCriticalBox(const QString &title, const QString &text)
 {
     const PlainCursor cursor;
-    QMessageBox box(QMessageBox::Critical, title, text);
+    QMessageBox box(QMessageBox::Critical, title, forMessage(text));
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }

@@ -227,6 +227,12 @@ void HeroCrossoverDialogTest::longNamesHaveRoom()
     QTRY_COMPARE(QToolTip::text(), QString());
 }
 
+// Without the places where an endless word may break.
+static QString shownToolTip()
+{
+    return QToolTip::text().remove(QChar(0x200B));
+}
+
 void HeroCrossoverDialogTest::endlessNamesAreToldWhole()
 {
     nameTheFirstMap("<b>Marsh</b> " + QString(500, 'm'));
@@ -234,7 +240,7 @@ void HeroCrossoverDialogTest::endlessNamesAreToldWhole()
     QVERIFY(m_dialog->width() < 140 * m_dialog->fontMetrics().averageCharWidth());
     const QString whole = "<qt>0. &lt;b&gt;Marsh&lt;/b&gt; " + QString(500, 'm') + "</qt>";
     askForToolTip(sources(), sources()->rect().center());
-    QCOMPARE(QToolTip::text(), whole);
+    QCOMPARE(shownToolTip(), whole);
     sources()->setCurrentIndex(1);
     askForToolTip(sources(), sources()->rect().center());
     QTRY_COMPARE(QToolTip::text(), QString());
@@ -246,7 +252,7 @@ void HeroCrossoverDialogTest::endlessNamesAreToldWhole()
         return place.intersected(list->viewport()->rect()).center();
     };
     askForToolTip(list->viewport(), placeOf(0));
-    QCOMPARE(QToolTip::text(), whole);
+    QCOMPARE(shownToolTip(), whole);
     askForToolTip(list->viewport(), placeOf(1));
     QTRY_COMPARE(QToolTip::text(), QString());
     sources()->hidePopup();
