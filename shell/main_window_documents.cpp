@@ -7,6 +7,7 @@
 #include "gamedata/readable_file.h"
 #include "gamedata/used_folder.h"
 #include "shell/campaign_map_view.h"
+#include "shell/shown_text.h"
 #include "shell/wait_cursor.h"
 #include "shell/warning_box.h"
 #include "ui_MainWindow.h"
@@ -184,7 +185,7 @@ int MainWindow::ask(const QString &question, QMessageBox::StandardButtons button
 {
     QMessageBox box;
     box.setWindowTitle(cmpEditorTitle());
-    box.setText(question);
+    box.setText(forMessage(question));
     box.setTextFormat(Qt::PlainText);
     box.setStandardButtons(buttons);
     box.setDefaultButton(preset);
