@@ -2,6 +2,7 @@
 
 #include "document/campaign_data.h"
 #include "document/map_file_name.h"
+#include "gamedata/file_name.h"
 #include "gamedata/readable_file.h"
 #include "gamedata/report.h"
 #include "gamedata/safe_save.h"
@@ -65,7 +66,7 @@ MapRefresh refreshMapsFrom(const QString &folder, CampaignData &campaign,
         QFile file(pathOf(folder, name));
         qDebug() << file.fileName();
         const std::optional<QString> failure = openToRead(file);
-        if (failure && !file.exists())
+        if (failure && !(namesOneFile(file.fileName()) && file.exists()))
             return {false, name};
         const int result = failure ? mapUnreadable : scenario.ReadMapFromFile(&file);
         if (result == mapRefused) {
