@@ -1,5 +1,7 @@
 #include "shell/recovery_files.h"
 
+#include "gamedata/escaped_utf8.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -26,9 +28,8 @@ constexpr int longestName = 80; // of a document in a base, in bytes
 
 constexpr const char *unfinishedName = ".unfinished-XXXXXX";
 constexpr int placeholderLength = 6;
-constexpr qint64 secondsOfWriting = 24 * 3600; // no copy takes longer
+constexpr qint64 secondsOfWriting = qint64(24) * 3600; // no copy takes longer
 
-constexpr int utf8Mib = 106;
 constexpr std::string_view signsInNames = " -_()";
 
 constexpr const char *pathKey = "file";
@@ -46,7 +47,7 @@ bool isInNames(uint letter)
 // went.
 QString forFileName(const QString &documentName)
 {
-    const bool plain = QTextCodec::codecForLocale()->mibEnum() != utf8Mib;
+    const bool plain = !isUtf8(*QTextCodec::codecForLocale());
     QString name;
     const auto letters = documentName.simplified().toUcs4();
     for (const uint letter : letters) {
@@ -171,9 +172,11 @@ std::unique_ptr<QFile> replaceFile(const QString &path, const std::vector<QByteA
     return file;
 }
 
+// A path is noted by its bytes, which needn't be UTF-8, nor in the encoding of the next editor.
 void writeOrigin(const QString &path, const RecoveryOrigin &origin)
 {
-    const QJsonObject note{{QLatin1String(pathKey), origin.path},
+    const QByteArray name = QFile::encodeName(origin.path).toPercentEncoding("/ ");
+    const QJsonObject note{{QLatin1String(pathKey), QLatin1String(name)},
                            {QLatin1String(stampKey), textOf(origin.stamp)}};
     replaceFile(path, {QJsonDocument(note).toJson()});
 }
@@ -187,7 +190,8 @@ RecoveryOrigin readOrigin(const QString &path)
     const auto stamp = stampFrom(note[QLatin1String(stampKey)].toString());
     if (!stamp)
         return {};
-    return {note[QLatin1String(pathKey)].toString(), *stamp};
+    const QByteArray name = note[QLatin1String(pathKey)].toString().toLatin1();
+    return {QFile::decodeName(QByteArray::fromPercentEncoding(name)), *stamp};
 }
 
 void removeRemains(const QString &folder)

@@ -1,6 +1,7 @@
 // The folder of recovery copies: what they are called, who has them, which are offered, which go.
 #include "shell/recovery_copies.h"
 
+#include "gamedata/escaped_utf8.h"
 #include "tests/support/disk_faults.h"
 #include "tests/support/file_contents.h"
 
@@ -65,6 +66,7 @@ private slots:
     void removeLeavesNothing();
     void leftCopyStaysAndTheNextDocumentHasItsOwn();
     void originComesBack();
+    void originKeepsEveryByteOfItsName();
     void damagedNoteIsNoOrigin_data();
     void damagedNoteIsNoOrigin();
     void newestIsOfferedFirstAndNoneTwice();
@@ -190,6 +192,8 @@ void RecoveryCopiesTest::namesOfDocumentsAreMadeHarmless_data()
         << "a___b";
     QTest::newRow("half a letter") << QString("a") + half + "b"
                                    << "a_b";
+    QTest::newRow("a byte that is no letter") << QString("a") + QChar(0xDCFF) + "b"
+                                              << "a_b";
     QTest::newRow("a picture") << QString::fromUtf8("a\xF0\x9F\x8C\xB2") << "a_";
     QTest::newRow("long") << QString(500, 'n') << QString(80, 'n');
     QTest::newRow("long, two bytes a letter") << pine.repeated(100) << pine.repeated(10);
@@ -254,6 +258,17 @@ void RecoveryCopiesTest::originComesBack()
     QCOMPARE(copy->origin.path, origin.path);
     QVERIFY(copy->origin.stamp == origin.stamp);
     QCOMPARE(copy->documentName(), QString::fromUtf8("\"старая\" гавань"));
+}
+
+// And means the same file to an editor of another encoding.
+void RecoveryCopiesTest::originKeepsEveryByteOfItsName()
+{
+    const QByteArray name = "/campaigns/\xE3\xE0\xE2 %41+\xFF\xD1\x91.e3c";
+    QTextCodec::setCodecForLocale(escapedUtf8Codec());
+    leaveCopy("harbour", 0, {QFile::decodeName(name), {}});
+    QCOMPARE(QFile::encodeName(RecoveryCopies(folder).newestToOffer()->origin.path), name);
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("koi8-r"));
+    QCOMPARE(QFile::encodeName(RecoveryCopies(folder).newestToOffer()->origin.path), name);
 }
 
 void RecoveryCopiesTest::damagedNoteIsNoOrigin_data()
