@@ -107,20 +107,23 @@ void paintCliff(QImage &image, Random &random)
         fillShape(painter, rock, toColor(mix({118, 82, 88}, {44, 36, 50}, layer / 2.4)));
     }
     for (int i = 0; i < 90; ++i) {
-        const QPointF p(random.range(250, 450), random.range(310, 590));
-        strokeLine(painter, polygon({p, p + QPointF(random.range(-6, 2), random.range(10, 34))}),
-                   QColor(26, 20, 34, 90), random.range(0.8, 2.4));
+        const QPointF p = random.place({250, 310}, {450, 590});
+        const double width = random.range(0.8, 2.4);
+        strokeLine(painter, polygon({p, p + random.place({-6, 10}, {2, 34})}),
+                   QColor(26, 20, 34, 90), width);
     }
     drawCastle(painter, {{168, 122, 124}, {62, 50, 76}, {64, 54, 92}, {255, 216, 120}}, {342, 302},
                214);
     for (int i = 0; i < 7; ++i)
         drawPine(painter, {250.0 + i * 33, 316.0 + (i % 3) * 10}, 44, {40, 38, 52}, {120, 82, 84},
                  random);
-    for (int i = 0; i < 11; ++i)
-        drawPine(painter, {i * 30.0 - 6 + random.range(-6, 6), 604}, random.range(90, 150),
-                 {24, 24, 36}, {66, 48, 60}, random);
+    for (int i = 0; i < 11; ++i) {
+        const double size = random.range(90, 150);
+        drawPine(painter, {i * 30.0 - 6 + random.range(-6, 6), 604}, size, {24, 24, 36},
+                 {66, 48, 60}, random);
+    }
     for (int i = 0; i < 7; ++i) {
-        const QPointF p(70 + i * 17 + random.range(-6, 6), 200 + i * 6 + random.range(-14, 14));
+        const QPointF p = QPointF(70 + i * 17, 200 + i * 6) + random.place({-6, -14}, {6, 14});
         strokeLine(painter, polygon({p + QPointF(-6, -3), p, p + QPointF(6, -3)}),
                    QColor(40, 30, 54), 1.3);
     }

@@ -64,16 +64,19 @@ void paintMarsh(QImage &image, Random &random)
     const QVector<QPointF> lights = {{96, 372}, {214, 396}, {322, 358}, {392, 420}, {150, 334}};
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    for (int i = 0; i < 9; ++i)
-        drawBareTree(painter, {i * 56.0 + random.range(-14, 14), 362}, random.range(90, 140),
-                     {46, 64, 62}, random);
+    for (int i = 0; i < 9; ++i) {
+        const double size = random.range(90, 140);
+        drawBareTree(painter, {i * 56.0 + random.range(-14, 14), 362}, size, {46, 64, 62}, random);
+    }
     const StoneTones hut{{84, 78, 62}, {48, 50, 46}, {62, 66, 48}, {255, 214, 110}};
     drawHouse(painter, hut, {246, 352}, 66);
     for (const double x : {222.0, 246.0, 270.0})
         strokeLine(painter, polygon({{x, 350}, {x, 372}}), QColor(40, 42, 38), 4);
-    for (int i = 0; i < 4; ++i)
-        drawBareTree(painter, {(i % 2) * 400.0 + 20 + random.range(-18, 18), 376},
-                     random.range(260, 330), {28, 38, 38}, random);
+    for (int i = 0; i < 4; ++i) {
+        const double size = random.range(260, 330);
+        drawBareTree(painter, {(i % 2) * 400.0 + 20 + random.range(-18, 18), 376}, size,
+                     {28, 38, 38}, random);
+    }
     for (const QPointF &p : lights)
         drawLantern(painter, p, 12);
     painter.end();
@@ -91,9 +94,10 @@ void paintMarsh(QImage &image, Random &random)
         const double y = 612 - 40 * (1 - side * side);
         const double tall = random.range(50, 130) * (0.45 + 0.55 * side * side);
         const double lean = random.range(-14, 14);
+        const double width = random.range(1.4, 2.8);
         strokeLine(painter,
                    polygon({{x, y + 30}, {x + lean * 0.4, y - tall * 0.5}, {x + lean, y - tall}}),
-                   toColor(mix({20, 32, 26}, {70, 88, 50}, random.unit())), random.range(1.4, 2.8));
+                   toColor(mix({20, 32, 26}, {70, 88, 50}, random.unit())), width);
         if (i % 5 == 0)
             strokeLine(painter, polygon({{x + lean, y - tall}, {x + lean, y - tall + 16}}),
                        QColor(66, 46, 30), 5);
@@ -111,8 +115,7 @@ void paintVolcano(QImage &image, Random &random)
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     for (int i = 26; i >= 0; --i)
-        fillEllipse(painter,
-                    QPointF(240 + i * 4 + random.range(-12, 12), 176 - i * 7 + random.range(-9, 9)),
+        fillEllipse(painter, QPointF(240 + i * 4, 176 - i * 7) + random.place({-12, -9}, {12, 9}),
                     18 + i * 3.2, 14 + i * 2.2,
                     toColor(mix({238, 108, 48}, {58, 42, 46}, smoothStep(0, 9, i)), 110));
     const quint32 rough = random.seed();

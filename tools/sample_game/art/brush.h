@@ -45,6 +45,12 @@ inline void fillEllipse(QPainter &painter, QPointF centre, double rx, double ry,
     painter.drawEllipse(centre, rx, ry);
 }
 
+// A place given in shares of a picture's width and height.
+inline QPointF shareOf(double width, double height, QPointF share)
+{
+    return {width * share.x(), height * share.y()};
+}
+
 inline QPolygonF boxOf(double left, double bottom, double width, double height)
 {
     return polygon({{left, bottom},

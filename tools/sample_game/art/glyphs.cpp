@@ -13,8 +13,8 @@ QPolygonF flank(QPointF peak, QPointF foot, double roughness, Random &random)
     constexpr int kParts = 5;
     for (int i = 1; i < kParts; ++i) {
         const QPointF p = peak + (foot - peak) * (static_cast<double>(i) / kParts);
-        line.append(p + QPointF(random.range(-roughness, roughness),
-                                random.range(-roughness, roughness) * 0.6));
+        const double drop = random.range(-roughness, roughness) * 0.6;
+        line.append(p + QPointF(random.range(-roughness, roughness), drop));
     }
     line.append(foot);
     return line;
@@ -65,8 +65,8 @@ void drawReeds(QPainter &painter, QPointF foot, double size, const QColor &light
 {
     for (int i = -2; i <= 2; ++i) {
         const QPointF root = foot + QPointF(i * 1.5, 0);
-        const QPointF tip =
-            root + QPointF(i * 0.9 + random.range(-0.8, 0.8), -size * random.range(0.5, 0.85));
+        const double tall = size * random.range(0.5, 0.85);
+        const QPointF tip = root + QPointF(i * 0.9 + random.range(-0.8, 0.8), -tall);
         strokeLine(painter, polygon({root, tip}), i % 2 != 0 ? light : dark, 1.0);
         if (i % 2 == 0)
             strokeLine(painter, polygon({tip, tip + QPointF(0, 2)}), QColor(86, 58, 34), 1.5);

@@ -63,8 +63,7 @@ QVector<QPointF> chooseSites(int count, Random &random)
         QPointF best;
         double bestDistance = -1;
         for (int i = 0; i < 12; ++i) {
-            const QPointF p(random.range(area.left(), area.left() + area.width()),
-                            random.range(area.top(), area.top() + area.height()));
+            const QPointF p = random.place(area.topLeft(), QRectF(area).bottomRight());
             const double d = sites.isEmpty() ? 1.0 : cellAt(sites, p.x(), p.y()).distance;
             if (d > bestDistance) {
                 bestDistance = d;
@@ -174,8 +173,7 @@ Mask isleAt(QPoint centre, quint32 seed)
 bool placeIsle(Country &country, Random &random)
 {
     for (int attempt = 0; attempt < 400; ++attempt) {
-        const QPoint centre(random.below(kMapWidth - 124) + 62,
-                            random.below(kMapHeight - 112) + 56);
+        const QPoint centre = random.cell(kMapWidth - 124, kMapHeight - 112) + QPoint(62, 56);
         if (country.offshore.at(centre.x(), centre.y()) < 12)
             continue;
         const Mask blob = isleAt(centre, random.seed());

@@ -1,7 +1,12 @@
 // A small generator of random numbers (SplitMix64), used instead of the standard library's, whose
 // distributions differ from one library to the next.
+//
+// Where the order of draws matters, each stands in a statement or in a place of a braced list of
+// its own: among the arguments of a call the compiler chooses which comes first, and the pictures
+// would differ from one compiler to the next.
 #pragma once
 
+#include <QPointF>
 #include <QtGlobal>
 
 namespace art {
@@ -26,6 +31,19 @@ public:
     // 0 to count - 1; count must be positive.
     int below(int count) { return static_cast<int>(next() % static_cast<quint64>(count)); }
     bool chance(double probability) { return unit() < probability; }
+    // A place between two corners. The row is drawn before the column.
+    QPointF place(QPointF from, QPointF to)
+    {
+        const double y = range(from.y(), to.y());
+        return {range(from.x(), to.x()), y};
+    }
+    // A place in a grid, from (0, 0) on; both counts must be positive. The row is drawn before the
+    // column.
+    QPoint cell(int columns, int rows)
+    {
+        const int y = below(rows);
+        return {below(columns), y};
+    }
     quint32 seed() { return static_cast<quint32>(next() >> 20); }
 
 private:

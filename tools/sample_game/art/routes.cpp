@@ -122,7 +122,7 @@ QVector<QPolygonF> findRivers(const Country &country, Random &random)
     QVector<QPolygonF> rivers;
     QVector<QPoint> sources;
     for (int attempt = 0; attempt < 500 && rivers.size() < 9; ++attempt) {
-        const QPoint source(random.below(kColumns), random.below(kRows));
+        const QPoint source = random.cell(kColumns, kRows);
         if (country.inland.at(source.x() * kScale, source.y() * kScale) < 30 ||
             nearAny(sources, source, 34))
             continue;

@@ -17,10 +17,12 @@ void drawBranch(QPainter &painter, QPointF from, double angle, double length, do
     strokeLine(painter, polygon({from, to}), colour, width);
     if (depth == 0)
         return;
-    for (const double side : {-1.0, 1.0})
-        drawBranch(painter, from + (to - from) * random.range(0.7, 1.0),
-                   angle + side * random.range(0.25, 0.75), length * random.range(0.6, 0.8),
-                   width * 0.62, colour, depth - 1, random);
+    for (const double side : {-1.0, 1.0}) {
+        const double nextLength = length * random.range(0.6, 0.8);
+        const double nextAngle = angle + side * random.range(0.25, 0.75);
+        const QPointF fork = from + (to - from) * random.range(0.7, 1.0);
+        drawBranch(painter, fork, nextAngle, nextLength, width * 0.62, colour, depth - 1, random);
+    }
 }
 
 } // namespace

@@ -54,7 +54,7 @@ void paintSky(QImage &image, const QVector<Tone> &tones, double horizon, quint32
 void addStars(QImage &image, int count, double below, Random &random)
 {
     for (int i = 0; i < count; ++i) {
-        const QPointF place(random.range(0, image.width()), random.range(0, below));
+        const QPointF place = random.place({0, 0}, {static_cast<double>(image.width()), below});
         const double size = random.range(0.8, 2.6);
         addGlow(image, place, size, {255, 250, 235}, random.range(0.3, 1.0));
         if (random.chance(0.06))
@@ -194,7 +194,7 @@ void addFlakes(QImage &image, int count, double largest, double slant, const Ton
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     for (int i = 0; i < count; ++i) {
-        const QPointF place(random.range(0, image.width()), random.range(0, image.height()));
+        const QPointF place = random.place({0, 0}, QRectF(image.rect()).bottomRight());
         const double near = random.unit() * random.unit();
         const double size = 0.5 + near * largest;
         const QColor colour = toColor(tone, 90 + random.below(150));

@@ -89,7 +89,7 @@ private:
     {
         for (int y = kFrameWidth; y < kMapHeight - kFrameWidth; y += step)
             for (int x = kFrameWidth; x < kMapWidth - kFrameWidth; x += step) {
-                const QPoint p(x + random_.below(step), y + random_.below(step));
+                const QPoint p = QPoint(x, y) + random_.cell(step, step);
                 if (random_.chance(share) && country_.land.contains(p.x(), p.y()) &&
                     country_.land.at(p.x(), p.y()) != 0)
                     attempt(p);

@@ -97,9 +97,11 @@ void paintBattleBanners(QImage &image, Random &random)
     }
     fillShape(painter, polygon({{0, h * 0.70}, {w, h * 0.69}, {w, h}, {0, h}}), QColor(70, 50, 46));
     const Tone cloths[] = {{190, 36, 40}, {44, 78, 166}, {206, 160, 50}, {52, 118, 66}};
-    for (int i = 0; i < 5; ++i)
+    for (int i = 0; i < 5; ++i) {
+        const double wave = random.range(0, 6);
         drawBanner(painter, {w * (0.04 + 0.2 * i), h * 0.84}, h * random.range(0.48, 0.6),
-                   cloths[i % 4], {246, 230, 190}, random.range(0, 6));
+                   cloths[i % 4], {246, 230, 190}, wave);
+    }
     for (int i = 0; i < 6; ++i)
         drawRider(painter, {w * (0.06 + 0.18 * i), h * (0.9 + 0.02 * (i % 2))}, h * 0.2,
                   {44, 30, 32});
@@ -147,7 +149,7 @@ void paintMapTable(QImage &image, Random &random)
                7);
     fillEllipse(painter, {w * 0.692, h * 0.24}, 6, 6, QColor(206, 40, 48));
     for (int i = 0; i < 9; ++i) {
-        const QPointF p(w * random.range(0.08, 0.24), h * random.range(0.78, 0.94));
+        const QPointF p = shareOf(w, h, random.place({0.08, 0.78}, {0.24, 0.94}));
         fillEllipse(painter, p + QPointF(1, 2), 9, 6, QColor(60, 36, 10));
         fillEllipse(painter, p, 9, 6, QColor(236, 190, 80));
         fillEllipse(painter, p - QPointF(1, 1), 5.5, 3.4, QColor(255, 224, 130));

@@ -215,9 +215,12 @@ void paintCrownOnCushion(QImage &image, Random &random)
     fillEllipse(painter, {w * 0.5, h * 0.735}, w * 0.19, h * 0.035, QColor(50, 4, 22, 150));
     drawCrown(painter, {w * 0.5, h * 0.72}, w * 0.42);
     painter.end();
-    for (int i = 0; i < 60; ++i)
-        addGlow(image, {w * random.unit(), h * random.range(0, 0.8)}, random.range(1, 3.4),
-                {255, 230, 170}, random.range(0.2, 0.7));
+    for (int i = 0; i < 60; ++i) {
+        const double strength = random.range(0.2, 0.7);
+        const double radius = random.range(1, 3.4);
+        addGlow(image, {w * random.unit(), h * random.range(0, 0.8)}, radius, {255, 230, 170},
+                strength);
+    }
     for (const QPointF &p : {QPointF(0.413, 0.335), QPointF(0.585, 0.335), QPointF(0.5, 0.52)})
         addGlow(image, {w * p.x(), h * p.y()}, h * 0.07, {255, 255, 230}, 0.8);
 }

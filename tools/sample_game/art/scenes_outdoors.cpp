@@ -84,11 +84,12 @@ void paintShipAtSea(QImage &image, Random &random)
     for (int i = 0; i < 90; ++i) {
         const double along = random.range(-1, 1);
         const QPointF p(w * 0.46 + along * h * 0.42, h * (0.865 + 0.03 * random.unit()));
-        strokeLine(painter, polygon({p, p + QPointF(random.range(8, 26), random.range(-2, 2))}),
-                   toColor(mix({48, 112, 142}, {236, 248, 248}, random.unit()), 190), 2.2);
+        const Tone tone = mix({48, 112, 142}, {236, 248, 248}, random.unit());
+        strokeLine(painter, polygon({p, p + random.place({8, -2}, {26, 2})}), toColor(tone, 190),
+                   2.2);
     }
     for (int i = 0; i < 6; ++i) {
-        const QPointF p(w * random.range(0.05, 0.95), h * random.range(0.1, 0.4));
+        const QPointF p = shareOf(w, h, random.place({0.05, 0.1}, {0.95, 0.4}));
         strokeLine(painter, polygon({p + QPointF(-7, -3), p, p + QPointF(7, -4)}),
                    QColor(250, 250, 250, 220), 1.6);
     }
@@ -145,10 +146,12 @@ void paintDragonMoon(QImage &image, Random &random)
     paintSky(image, {{14, 18, 44}, {36, 46, 92}, {96, 94, 140}}, h * 0.85, random.seed());
     addStars(image, 160, h * 0.75, random);
     paintDisc(image, {w * 0.56, h * 0.38}, h * 0.25, {244, 232, 196}, 0.7);
-    for (int i = 0; i < 9; ++i)
+    for (int i = 0; i < 9; ++i) {
+        const double radius = h * random.range(0.02, 0.05);
         addGlow(image,
                 {w * 0.56 + h * random.range(-0.15, 0.15), h * (0.38 + random.range(-0.15, 0.15))},
-                h * random.range(0.02, 0.05), {255, 255, 240}, 0.3);
+                radius, {255, 255, 240}, 0.3);
+    }
     addClouds(image, h * 0.5, h * 0.86, {92, 94, 138}, 0.6, random.seed());
     paintRidge(image, {h * 0.86, h * 0.1, w * 0.2, {40, 44, 80}, {22, 24, 48}, 0.5}, random.seed());
     QPainter painter(&image);
@@ -175,10 +178,12 @@ void paintSnowstorm(QImage &image, Random &random)
                random.seed());
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    for (int i = 0; i < 9; ++i)
+    for (int i = 0; i < 9; ++i) {
+        const double size = h * random.range(0.2, 0.4);
         drawPine(painter,
-                 {w * (0.05 + 0.11 * i) + random.range(-9, 9), h * random.range(0.78, 0.86)},
-                 h * random.range(0.2, 0.4), {84, 106, 126}, {226, 232, 242}, random);
+                 {w * (0.05 + 0.11 * i) + random.range(-9, 9), h * random.range(0.78, 0.86)}, size,
+                 {84, 106, 126}, {226, 232, 242}, random);
+    }
     for (int i = 0; i < 4; ++i)
         drawRider(painter, {w * (0.24 + 0.15 * i), h * (0.92 + 0.012 * (i % 2))}, h * 0.15,
                   {58, 64, 84});
@@ -208,7 +213,7 @@ void paintRuins(QImage &image, Random &random)
     drawColumn(painter, near, {w * 0.10, h * 0.96}, h * 0.78, false);
     drawColumn(painter, near, {w * 0.88, h * 0.96}, h * 0.60, true);
     for (int i = 0; i < 9; ++i) {
-        const QPointF p(w * random.unit(), h * random.range(0.86, 0.98));
+        const QPointF p = shareOf(w, h, random.place({0, 0.86}, {1, 0.98}));
         const double s = h * random.range(0.02, 0.05);
         fillShape(painter,
                   polygon({p, p + QPointF(s * 0.3, -s), p + QPointF(s * 1.6, -s * 0.9),
@@ -216,13 +221,15 @@ void paintRuins(QImage &image, Random &random)
                   toColor(mix(near.light, near.shade, random.unit())));
     }
     for (int i = 0; i < 260; ++i) {
-        const QPointF p(w * random.unit(), h * random.range(0.84, 1.03));
-        strokeLine(painter,
-                   polygon({p, p + QPointF(random.range(-3, 3), -h * random.range(0.02, 0.05))}),
-                   toColor(mix({52, 74, 40}, {136, 150, 78}, random.unit())), 1.3);
+        const QPointF p = shareOf(w, h, random.place({0, 0.84}, {1, 1.03}));
+        const Tone tone = mix({52, 74, 40}, {136, 150, 78}, random.unit());
+        const double tall = h * random.range(0.02, 0.05);
+        strokeLine(painter, polygon({p, p + QPointF(random.range(-3, 3), -tall)}), toColor(tone),
+                   1.3);
     }
     for (int i = 0; i < 40; ++i) {
-        const QPointF p(w * (0.06 + 0.09 * random.unit()), h * random.range(0.2, 0.6));
+        const double y = h * random.range(0.2, 0.6);
+        const QPointF p(w * (0.06 + 0.09 * random.unit()), y);
         fillEllipse(painter, p, h * 0.014, h * 0.011, QColor(70, 102, 50, 210));
     }
 }
