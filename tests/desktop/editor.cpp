@@ -110,3 +110,11 @@ void Editor::click(QPoint at, int button, int times)
     waitFor({}, "the click reaches the editor",
             [&](const QJsonObject &answer) { return answer["presses"].toInt() >= before + times; });
 }
+
+void Editor::press(const QString &key)
+{
+    const int before = look({})["keys"].toInt();
+    m_screen.press(key);
+    waitFor({}, "the key reaches the editor",
+            [&](const QJsonObject &answer) { return answer["keys"].toInt() > before; });
+}

@@ -42,6 +42,8 @@ public:
     // Clicks and waits until the clicks have reached the editor: a window manager holds them back
     // for a while, and a mouse that moves on meanwhile takes them along.
     void click(QPoint at, int button = 1, int times = 1);
+    // Presses a key that is no shortcut and waits until it has reached the editor.
+    void press(const QString &key);
 
 private:
     void connectLocator();

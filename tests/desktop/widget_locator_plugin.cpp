@@ -3,8 +3,8 @@
 //
 // Loaded by QT_QPA_GENERIC_PLUGINS=widgetlocator:PATH, it listens at the local socket PATH. Each
 // line that comes is a question, each line that goes its answer, both JSON. An answer
-// has one more member, "presses": how often a button of the mouse or the wheel has reached the
-// program.
+// has two more members, how often something has reached the program: "presses" of the mouse's
+// buttons and turns of its wheel, and "keys".
 #include "tests/desktop/widget_report.h"
 
 #include <QCoreApplication>
@@ -30,10 +30,12 @@ public:
 
     bool eventFilter(QObject *object, QEvent *event) override
     {
-        const bool pressed =
-            event->type() == QEvent::MouseButtonPress || event->type() == QEvent::Wheel;
-        if (pressed && object->isWindowType())
+        if (!object->isWindowType())
+            return false;
+        if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::Wheel)
             ++m_presses;
+        if (event->type() == QEvent::KeyPress)
+            ++m_keys;
         return false;
     }
 
@@ -51,6 +53,7 @@ private:
             const QJsonDocument question = QJsonDocument::fromJson(socket.readLine());
             QJsonObject told = widgetReport(question.object());
             told["presses"] = m_presses;
+            told["keys"] = m_keys;
             socket.write(QJsonDocument(told).toJson(QJsonDocument::Compact) + '\n');
             socket.flush();
         }
@@ -58,6 +61,7 @@ private:
 
     QLocalServer m_server;
     int m_presses = 0;
+    int m_keys = 0;
 };
 
 } // namespace
