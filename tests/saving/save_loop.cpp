@@ -26,8 +26,6 @@ int main(int argc, char *argv[])
     const QString target = QFile::decodeName(argv[1]);
     const std::array<QByteArray, 2> contents{contentsOf(argv[2]), contentsOf(argv[3])};
     const int times = argc > 4 ? QByteArray(argv[4]).toInt() : INT_MAX;
-    std::puts("ready");
-    std::fflush(stdout);
     for (int i = 0; i < times; ++i) {
         const QByteArray &next = contents[std::size_t(i % 2)];
         const int half = next.size() / 2;
@@ -35,6 +33,10 @@ int main(int argc, char *argv[])
         if (!result.ok) {
             std::fprintf(stderr, "%s\n", qPrintable(result.error));
             return 1;
+        }
+        if (i == 0) {
+            std::puts("saved");
+            std::fflush(stdout);
         }
     }
     return 0;
