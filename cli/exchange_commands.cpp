@@ -5,7 +5,6 @@
 #include "document/map_exchange.h"
 #include "document/text_exchange.h"
 #include "gamedata/game_loading.h"
-#include "gamedata/readable_file.h"
 #include "gamedata/report.h"
 
 #include <QFile>
@@ -49,8 +48,8 @@ ExitStatus runImportTexts(const QStringList &arguments)
         return status;
     const QString &path = arguments[1];
     QFile file(path);
-    if (const std::optional<QString> failure = openToRead(file))
-        return cannotRead(path, *failure);
+    if (!file.open(QIODevice::ReadOnly)) // a pipe is welcome: texts may come from another program
+        return cannotRead(path, file.errorString());
     if (!importTextsFrom(file, campaign)) {
         return failed(mainWindowText("Cannot read file %1 - incorrect campaign text:\n%2.")
                           .arg(path, file.errorString()));
