@@ -137,9 +137,6 @@ Run MonkeyTest::letPlay(quint32 seed, int seconds)
     const QTemporaryDir folder;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("TMPDIR", folder.path()); // a crash leaves the private game behind
-    environment.insert("HOME", folder.path());
-    environment.insert("XDG_CONFIG_HOME", folder.path());
-    environment.insert("XDG_DATA_HOME", folder.path());
     environment.insert("QT_LOGGING_RULES", "default.debug=false");
     environment.insert("ASAN_OPTIONS", environment.value("ASAN_OPTIONS") + ":handle_abort=1");
     environment.insert("UBSAN_OPTIONS", "print_stacktrace=1");
@@ -164,7 +161,7 @@ Run MonkeyTest::letPlay(quint32 seed, int seconds)
     if (run.silent)
         run.trouble = QStringLiteral("a step took too long");
     else if (monkey.exitStatus() != QProcess::NormalExit)
-        run.trouble = QStringLiteral("the editor crashed");
+        run.trouble = QStringLiteral("signal %1 ended the editor").arg(monkey.exitCode());
     else if (monkey.exitCode() != monkeyIsHome && monkey.exitCode() != editorEnded)
         run.trouble = QStringLiteral("the run ended with %1").arg(monkey.exitCode());
     return run;

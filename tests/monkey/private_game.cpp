@@ -40,8 +40,10 @@ PrivateGame::PrivateGame(const QString &sampleGame)
     }
     copy(sampleGame, m_folder.path());
     addStrangeFiles();
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                       m_folder.filePath(QStringLiteral("user")));
+    const QString user = m_folder.filePath(QStringLiteral("user"));
+    for (const char *home : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
+        qputenv(home, QFile::encodeName(user));
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, user);
     if (!QDir::setCurrent(maps()))
         m_failure = QStringLiteral("there is no sample game in ") + sampleGame;
 }

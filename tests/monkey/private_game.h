@@ -19,7 +19,8 @@ enum class FileKind
 class PrivateGame
 {
 public:
-    // The process's settings and its current folder are in there as well from now on.
+    // The user's home with all settings and the current folder are in there as well from now on,
+    // so it has to come before the application.
     explicit PrivateGame(const QString &sampleGame);
 
     // Empty if all went well.
