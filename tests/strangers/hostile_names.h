@@ -25,7 +25,7 @@ inline QString strayByte()
 
 inline QVector<MapName> mapNames()
 {
-    const QString zero(QChar(QChar::Null));
+    const QString zero = QChar(QChar::Null);
     const QString tooLong(300, 'w');
     const QString turned = QString::fromUtf8("x\u202Em3e\u202C\u200B.e3m");
     return {
