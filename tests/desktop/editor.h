@@ -47,6 +47,7 @@ public:
 
 private:
     void connectLocator();
+    void pointAt(QPoint at);
 
     Screen &m_screen;
     QString m_program;

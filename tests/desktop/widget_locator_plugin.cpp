@@ -2,17 +2,20 @@
 // looks: mouse and keyboard stay the test's.
 //
 // Loaded by QT_QPA_GENERIC_PLUGINS=widgetlocator:PATH, it listens at the local socket PATH. Each
-// line that comes is a question, each line that goes its answer, both JSON. An answer
-// has two more members, how often something has reached the program: "presses" of the mouse's
-// buttons and turns of its wheel, and "keys".
+// line that comes is a question, each line that goes its answer, both JSON. An answer has more
+// members. How often something has reached the program: "presses" of the mouse's buttons and turns
+// of its wheel, "moves" of the mouse, and "keys". And "pointer", where the last move led, [x, y] on
+// the screen.
 #include "tests/desktop/widget_report.h"
 
 #include <QCoreApplication>
 #include <QEvent>
 #include <QGenericPlugin>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QLocalServer>
 #include <QLocalSocket>
+#include <QMouseEvent>
 
 namespace {
 
@@ -36,6 +39,10 @@ public:
             ++m_presses;
         if (event->type() == QEvent::KeyPress)
             ++m_keys;
+        if (event->type() == QEvent::MouseMove) {
+            ++m_moves;
+            m_pointer = static_cast<QMouseEvent *>(event)->globalPos();
+        }
         return false;
     }
 
@@ -53,7 +60,9 @@ private:
             const QJsonDocument question = QJsonDocument::fromJson(socket.readLine());
             QJsonObject told = widgetReport(question.object());
             told["presses"] = m_presses;
+            told["moves"] = m_moves;
             told["keys"] = m_keys;
+            told["pointer"] = QJsonArray{m_pointer.x(), m_pointer.y()};
             socket.write(QJsonDocument(told).toJson(QJsonDocument::Compact) + '\n');
             socket.flush();
         }
@@ -61,7 +70,9 @@ private:
 
     QLocalServer m_server;
     int m_presses = 0;
+    int m_moves = 0;
     int m_keys = 0;
+    QPoint m_pointer;
 };
 
 } // namespace
