@@ -1,3 +1,4 @@
+// What a map's header holds, as JSON.
 #include "cli/bit_text.h"
 #include "cli/campaign_json.h"
 #include "cli/json_writer.h"

@@ -1,3 +1,4 @@
+// A scenario's start options as JSON: each kind of bonus with the fields it has.
 #include "cli/campaign_json.h"
 #include "cli/json_writer.h"
 

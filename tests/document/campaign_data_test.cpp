@@ -1,3 +1,4 @@
+// The records of a campaign in memory: their defaults, their clearing, and empty campaigns.
 #include "document/campaign_data.h"
 
 #include "tests/document/samples.h"

@@ -1,3 +1,4 @@
+// The small things that a campaign's records are made of: texts, arrays of bits, stories.
 #include "document/campaign_primitives.h"
 
 #include "gamedata/limits.h"

@@ -1,3 +1,4 @@
+// Disks that fail while a campaign or a map is read.
 #include "document/campaign_data.h"
 
 #include "tests/document/samples.h"

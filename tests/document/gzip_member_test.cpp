@@ -1,3 +1,4 @@
+// Packing and unpacking of whole members, held against zlib's own functions.
 #include "document/gzip_member.h"
 
 #include "tests/document/samples.h"

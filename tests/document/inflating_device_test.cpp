@@ -1,3 +1,4 @@
+// Unpacking as far as somebody reads: of sound members, of damaged ones, and up to a limit.
 #include "document/inflating_device.h"
 
 #include "tests/document/samples.h"

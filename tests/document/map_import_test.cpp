@@ -1,3 +1,4 @@
+// Taking a map's file into a scenario: which files are taken, and what a refused one leaves.
 #include "document/campaign_data.h"
 
 #include "tests/document/samples.h"

@@ -1,3 +1,4 @@
+// The buildings of the towns, from the text tables and the table file.
 #include "tests/gamedata/game_files.h"
 
 #include <QTest>

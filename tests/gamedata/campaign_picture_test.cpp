@@ -1,3 +1,4 @@
+// The pictures of a campaign map: its background, and its regions ready-made or computed.
 #include "gamedata/campaign_picture.h"
 #include "tests/gamedata/region_masks.h"
 #include "tests/support/picture_records.h"

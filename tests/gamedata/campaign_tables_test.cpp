@@ -1,3 +1,4 @@
+// The layouts of the campaign maps, and the tables of backgrounds, colours, music and videos.
 #include "tests/gamedata/game_files.h"
 
 #include <QTest>

@@ -1,3 +1,4 @@
+// The start of the tables: which archives are opened, in which order, and the simple tables.
 #include "gamedata/limits.h"
 #include "tests/gamedata/game_files.h"
 #include "tests/gamedata/marking_translator.h"

@@ -1,3 +1,4 @@
+// Where the game's files are.
 #include "gamedata/game_dir.h"
 
 #include <QTemporaryDir>

@@ -1,3 +1,4 @@
+// Loading the table file at the start, and the end of the process without it.
 #include "gamedata/game_files.h"
 
 #include "gamedata/game_dir.h"

@@ -1,3 +1,4 @@
+// Which translations and which encoding go with the language in the settings.
 #include "gamedata/game_language.h"
 
 #include "gamedata/ini_file.h"

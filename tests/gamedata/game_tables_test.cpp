@@ -1,3 +1,4 @@
+// The tables of creatures, artifacts, heroes, skills, spells and resources.
 #include "gamedata/limits.h"
 #include "tests/gamedata/game_files.h"
 

@@ -1,3 +1,4 @@
+// Pictures are read or computed once and found again.
 #include "gamedata/image_cache.h"
 #include "tests/gamedata/game_files.h"
 #include "tests/support/picture_records.h"

@@ -1,3 +1,4 @@
+// The settings file: its dialect, its tree, and writing it back.
 #include "gamedata/ini_file.h"
 
 #include "gamedata/game_dir.h"

@@ -1,3 +1,4 @@
+// Archives: their index, their files, and archives that are cut or lie.
 #include "gamedata/limits.h"
 #include "gamedata/lod_archive.h"
 #include "tests/gamedata/game_files.h"

@@ -1,3 +1,4 @@
+// Picture records of every kind, and records that aren't what they say.
 #include "gamedata/limits.h"
 #include "gamedata/pcx_image.h"
 #include "tests/gamedata/game_files.h"

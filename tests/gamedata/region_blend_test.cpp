@@ -1,3 +1,4 @@
+// Blending a region's picture: every blender gives what the slow, plain way gives.
 #include "gamedata/region_blend.h"
 #include "tests/gamedata/region_masks.h"
 

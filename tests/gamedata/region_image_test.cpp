@@ -1,3 +1,4 @@
+// Computed pictures of regions: their looks by state and colour, and masks that don't fit.
 #include "gamedata/region_image.h"
 #include "tests/gamedata/region_masks.h"
 #include "tests/support/picture_records.h"

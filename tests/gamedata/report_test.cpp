@@ -1,3 +1,4 @@
+// How the lower rooms tell of errors and end the process.
 #include "gamedata/report.h"
 
 #include "tests/support/child_process.h"

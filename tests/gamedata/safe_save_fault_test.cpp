@@ -1,3 +1,4 @@
+// Saving on disks that fill up or fail: the old file stays whole.
 #include "gamedata/safe_save.h"
 
 #include "tests/gamedata/safe_save_support.h"

@@ -1,3 +1,4 @@
+// Saving: what becomes of modes, owners, links and files that can't be replaced.
 #include "gamedata/safe_save.h"
 
 #include "tests/gamedata/safe_save_support.h"

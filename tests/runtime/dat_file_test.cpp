@@ -1,3 +1,4 @@
+// The table file: its entries, looking values up, and files that are cut or lie.
 #include "gamedata/runtime/dat_file.h"
 
 #include "tests/support/byte_writer.h"

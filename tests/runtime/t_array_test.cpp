@@ -1,3 +1,4 @@
+// The array that holds its block: its growth, and indexes outside of it.
 #include "gamedata/runtime/t_array.h"
 
 #include <QtTest>

@@ -1,3 +1,4 @@
+// Streams in memory and on files.
 #include "gamedata/runtime/t_stream.h"
 
 #include <QTemporaryDir>

@@ -1,3 +1,4 @@
+// The counted string.
 #include "gamedata/runtime/t_string.h"
 
 #include <QtTest>

@@ -1,3 +1,4 @@
+// The small tools for texts and bits.
 #include "gamedata/runtime/text_tools.h"
 
 #include <QtTest>

@@ -1,3 +1,4 @@
+// What a bonus is called in the list.
 #include "scenario/bonus_text.h"
 
 #include "tests/scenario/bonus_rows.h"

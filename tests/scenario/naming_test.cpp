@@ -1,3 +1,4 @@
+// The names of players, heroes and scenarios, and lists of heroes to choose from.
 #include "scenario/naming.h"
 
 #include "document/campaign_data.h"

@@ -1,3 +1,4 @@
+// The page of starting bonuses: what it loads, shows and saves.
 #include "scenario/starting_bonus.h"
 
 #include "tests/scenario/bonus_page.h"

@@ -1,3 +1,4 @@
+// Which players can still be given a hero to start with.
 #include "scenario/starting_hero_rules.h"
 
 #include "document/campaign_data.h"

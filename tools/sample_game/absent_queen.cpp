@@ -1,3 +1,4 @@
+// The campaign on show, with stories and start options of every kind.
 #include "tools/sample_game/sample_campaigns.h"
 
 #include "tools/sample_game/campaign_maps.h"

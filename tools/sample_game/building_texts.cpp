@@ -1,3 +1,4 @@
+// The text tables of the towns' buildings.
 #include "tools/sample_game/game_texts.h"
 #include "tools/sample_game/names.h"
 

@@ -1,3 +1,4 @@
+// The text tables of the editor itself: its words and hints, and the names of tracks and movies.
 #include "tools/sample_game/game_texts.h"
 #include "tools/sample_game/names.h"
 

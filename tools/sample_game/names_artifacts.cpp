@@ -1,3 +1,4 @@
+// The names of the artifacts.
 #include "tools/sample_game/names.h"
 
 namespace sample::names {

@@ -1,3 +1,4 @@
+// The names of the buildings, town by town.
 #include "tools/sample_game/names.h"
 
 namespace sample::names {

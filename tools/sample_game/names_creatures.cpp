@@ -1,3 +1,4 @@
+// The names of the creatures.
 #include "tools/sample_game/names.h"
 
 namespace sample::names {

@@ -1,3 +1,4 @@
+// The names of heroes, skills and spells.
 #include "tools/sample_game/names.h"
 
 namespace sample::names {

@@ -1,3 +1,4 @@
+// From the notes of a tune to its samples.
 #include "tools/sample_game/tunes.h"
 
 #include <QStringList>

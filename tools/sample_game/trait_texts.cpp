@@ -1,3 +1,4 @@
+// The text tables of creatures, artifacts, heroes, skills and spells, and old ones that they hide.
 #include "tools/sample_game/game_encoding.h"
 #include "tools/sample_game/game_texts.h"
 #include "tools/sample_game/names.h"

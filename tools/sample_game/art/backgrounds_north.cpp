@@ -1,3 +1,4 @@
+// A harbour, a cliff and a pass.
 #include "tools/sample_game/art/backgrounds.h"
 
 #include "tools/sample_game/art/brush.h"

@@ -1,3 +1,4 @@
+// Dunes, a marsh and a fire mount.
 #include "tools/sample_game/art/backgrounds.h"
 
 #include "tools/sample_game/art/brush.h"

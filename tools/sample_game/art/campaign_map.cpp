@@ -1,3 +1,4 @@
+// A campaign map as a whole: the country, its regions' masks, and the picture of it all.
 #include "tools/sample_game/art/art.h"
 #include "tools/sample_game/art/land_shapes.h"
 #include "tools/sample_game/art/looks.h"

@@ -1,3 +1,4 @@
+// The pattern of strokes that lies on regions without a scenario.
 #include "tools/sample_game/art/art.h"
 
 #include "tools/sample_game/art/noise.h"

@@ -1,3 +1,4 @@
+// The stills of the movies, in the order of their numbers.
 #include "tools/sample_game/art/art.h"
 #include "tools/sample_game/art/scene_tools.h"
 #include "tools/sample_game/art/scenes.h"
