@@ -2,7 +2,6 @@
 
 #include "gamedata/campaign_picture.h"
 #include "gamedata/editor_data.h"
-#include "shell/main_window.h"
 #include "ui_MapBrowser.h"
 #include "ui_ScenarioBrowser.h"
 
@@ -29,12 +28,9 @@ void MyQGraphicsView::connectUI(QLabel *label)
 
 void MyQGraphicsView::showContextMenu(const QPoint &pos)
 {
-    MainWindow *window = mainWindow();
-    if (!window)
-        return;
     QMenu menu;
     QAction properties(tr("Properties..."));
-    connect(&properties, &QAction::triggered, window, &MainWindow::showScenarioPropertiesDlg);
+    connect(&properties, &QAction::triggered, this, &MyQGraphicsView::propertiesRequested);
     menu.addAction(&properties);
     menu.exec(viewport()->mapToGlobal(pos));
     // The menu has taken the release that belongs to the press in front of it. The region that
@@ -57,18 +53,12 @@ void MyQGraphicsView::mouseDoubleClickEvent(QMouseEvent *event)
         event->ignore();
         return;
     }
-    if (MainWindow *window = mainWindow())
-        window->showScenarioPropertiesDlg();
+    emit propertiesRequested();
 }
 
 void MyQGraphicsView::wheelEvent(QWheelEvent *event)
 {
     event->ignore();
-}
-
-MainWindow *MyQGraphicsView::mainWindow() const
-{
-    return qobject_cast<MainWindow *>(window());
 }
 
 MapBrowser::MapBrowser(QWidget *parent, QLabel *hintLabel)

@@ -8,7 +8,6 @@
 
 #include <memory>
 
-class MainWindow;
 class QLabel;
 class Ui_MapBrowser;
 class Ui_ScenarioBrowser;
@@ -40,14 +39,17 @@ public:
 public slots:
     void showContextMenu(const QPoint &pos);
 
+signals:
+    // By a double click or the context menu: the author wants the scenario of the selected region,
+    // or the first where the campaign has no map.
+    void propertiesRequested();
+
 protected:
     void enterEvent(QEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
 private:
-    MainWindow *mainWindow() const; // null where the view stands in no main window
-
     QLabel *hintLabel = nullptr; // not owned
 };
 

@@ -145,6 +145,8 @@ void MainWindow::initSlotsAndSignals()
     connect(ui->campaignProperties, &QAction::triggered, this, &MainWindow::openCampaignProperties);
     connect(ui->actionConvertCmp, &QAction::triggered, this, &MainWindow::openConvertCampaign);
     connect(ui->actionAbout, &QAction::triggered, this, &MainWindow::about);
+    connect(mapBrowser->getGraphicsView(), &MyQGraphicsView::propertiesRequested, this,
+            &MainWindow::openScenarioProperties);
     for (const ToolTipRow &row : toolTipRows)
         connect(ui.get()->*row.action, &QAction::hovered, this, &MainWindow::setTooltipToHintBar);
 }

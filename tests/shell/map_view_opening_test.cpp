@@ -4,6 +4,7 @@
 #include <QContextMenuEvent>
 #include <QListWidget>
 #include <QMenu>
+#include <QSignalSpy>
 
 class MapViewOpeningTest : public QObject
 {
@@ -20,6 +21,7 @@ private slots:
     void contextMenuOffersProperties();
     void campaignWithoutMapOpensItsFirstScenario_data();
     void campaignWithoutMapOpensItsFirstScenario();
+    void theViewOnlyAsks();
 
 private:
     std::unique_ptr<WindowFixture> fixture;
@@ -153,6 +155,29 @@ void MapViewOpeningTest::campaignWithoutMapOpensItsFirstScenario()
     QVERIFY(properties.came());
     QCOMPARE(row, 0);
     QCOMPARE(EditorData::info.region, 0U);
+}
+
+// What is opened then, if anything, isn't the view's business.
+void MapViewOpeningTest::theViewOnlyAsks()
+{
+    QLabel label;
+    MapBrowser browser(nullptr, &label);
+    MyQGraphicsView *view = browser.getGraphicsView();
+    QSignalSpy asked(view, &MyQGraphicsView::propertiesRequested);
+    QMouseEvent click(QEvent::MouseButtonDblClick, QPointF(1, 1), Qt::LeftButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(view->viewport(), &click);
+    QCOMPARE(asked.size(), 1);
+    closeNextMenu(view);
+    view->showContextMenu(QPoint(1, 1));
+    QCOMPARE(asked.size(), 1);
+    QTimer::singleShot(0, view, [] {
+        QWidget *menu = QApplication::activePopupWidget();
+        QTest::keyClick(menu, Qt::Key_Down);
+        QTest::keyClick(menu, Qt::Key_Return);
+    });
+    view->showContextMenu(QPoint(1, 1));
+    QCOMPARE(asked.size(), 2);
 }
 
 QTEST_MAIN(MapViewOpeningTest)

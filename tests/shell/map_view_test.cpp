@@ -391,11 +391,6 @@ void MapViewTest::mapBrowserHasItsForm()
     QEvent event(QEvent::Enter);
     QApplication::sendEvent(view, &event);
     QCOMPARE(label.text(), QString("Hint 0"));
-    // Without a main window around there is nothing to open.
-    QMouseEvent click(QEvent::MouseButtonDblClick, QPointF(1, 1), Qt::LeftButton, Qt::LeftButton,
-                      Qt::NoModifier);
-    QApplication::sendEvent(view->viewport(), &click);
-    view->showContextMenu(QPoint(1, 1));
 }
 
 QTEST_MAIN(MapViewTest)
