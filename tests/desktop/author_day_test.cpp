@@ -1,9 +1,11 @@
 // Lives through an author's day with the real launcher, step by step; ends at the first step that
 // goes wrong, with a picture of the screen.
 //
-// Usage: author_day_test PROGRAMS SAMPLE_GAME PLUGINS DOCUMENTS
+// Usage: author_day_test PROGRAMS SAMPLE_GAME PLUGINS DOCUMENTS [RECORD]
+// RECORD is a file for what the day leaves behind each step; see day_record.h.
 // CMPED_FAILURE_PICTURE names the picture; without it, it stands in the current folder.
 #include "tests/desktop/author_day.h"
+#include "tests/desktop/day_record.h"
 #include "tests/desktop/failure.h"
 
 #include <QCoreApplication>
@@ -33,13 +35,16 @@ void takePicture(Workplace &place)
         tell("  picture: " + path);
 }
 
-bool liveThrough(Workplace &place)
+bool liveThrough(Workplace &place, DayRecord &record)
 {
+    DayEntry last;
     for (const Step &step : authorsDay()) {
         QElapsedTimer timer;
         timer.start();
         try {
             step.act(place);
+            last = entryBehind(step.name, int(timer.elapsed()), last, place);
+            record.append(last);
         } catch (const Failure &failure) {
             tellFailure(failure, step.name);
             takePicture(place);
@@ -48,7 +53,7 @@ bool liveThrough(Workplace &place)
         }
         tell(QString("PASS: %1 (%2 s)")
                  .arg(QString::fromUtf8(step.name),
-                      QString::number(double(timer.elapsed()) / 1000, 'f', 1)));
+                      QString::number(double(last.milliseconds) / 1000, 'f', 1)));
     }
     return true;
 }
@@ -59,13 +64,18 @@ int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 5) {
-        tell("Usage: author_day_test PROGRAMS SAMPLE_GAME PLUGINS DOCUMENTS");
+    if (arguments.size() < 5 || arguments.size() > 6) {
+        tell("Usage: author_day_test PROGRAMS SAMPLE_GAME PLUGINS DOCUMENTS [RECORD]");
         return 2;
     }
     try {
         Workplace place({arguments[1], arguments[2], arguments[3], arguments[4]});
-        return liveThrough(place) ? 0 : 1;
+        DayRecord record;
+        if (!liveThrough(place, record))
+            return 1;
+        if (arguments.size() == 6)
+            writeRecord(record, arguments[5]);
+        return 0;
     } catch (const Failure &failure) {
         tellFailure(failure, "a place to work");
         return 1;

@@ -43,7 +43,8 @@ void exportTheTexts(Workplace &place)
 {
     chooseFromMenu(place.editor(), "File", "Export Texts...");
     answerFileDialog(place.editor(), place.file("ferry toll.txt"), "MainWindow");
-    waitForFile(place.file("ferry toll.txt"), document(place, "exported_texts.txt"));
+    waitForFile(place.editor(), place.file("ferry toll.txt"),
+                document(place, "exported_texts.txt"));
 }
 
 // The translator's editor leaves lines that end as its own system has it.
@@ -68,6 +69,11 @@ void importThem(Workplace &place)
     chooseFromMenu(editor, "File", "Import Texts...");
     answerFileDialog(editor, place.file("ferry toll ru.txt"), "MainWindow");
     waitForTitle(editor, "ferry toll.e3c* - Eldmark Saga Campaign Editor");
+}
+
+void saveTheTranslation(Workplace &place)
+{
+    Editor &editor = place.editor();
     editor.screen().press("ctrl+s");
     waitForTitle(editor, "ferry toll.e3c - Eldmark Saga Campaign Editor");
     checkSavedCampaign(place, "ferry toll.e3c", "translated.json");
@@ -79,5 +85,6 @@ Steps translateTexts()
 {
     return {{"the texts exported", exportTheTexts},
             {"the texts translated, outside", translateThem},
-            {"the texts imported and saved", importThem}};
+            {"the texts imported", importThem},
+            {"saved, and the file holds the translation", saveTheTranslation}};
 }

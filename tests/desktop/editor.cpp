@@ -7,6 +7,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <csignal>
+
 namespace {
 
 constexpr int answerLimit = 90000; // milliseconds; the editor may be at work
@@ -35,16 +37,21 @@ Editor::Editor(Screen &screen, const QString &program, const QString &plugins,
 
 Editor::~Editor()
 {
-    m_process.kill();
-    m_process.waitForFinished();
+    kill();
 }
 
-void Editor::start(const QStringList &arguments)
+void Editor::launch(const QStringList &arguments)
 {
     m_process.start(m_program, arguments);
     if (!m_process.waitForStarted())
         throw Failure("the editor starts", m_process.errorString());
+    m_processId = m_process.processId();
     connectLocator();
+}
+
+void Editor::start(const QStringList &arguments)
+{
+    launch(arguments);
     waitFor({}, "the main window takes the input", [](const QJsonObject &answer) {
         return answer["window"] == "MainWindow" && answer["active"].toBool();
     });
@@ -58,7 +65,7 @@ void Editor::connectLocator()
         m_locator.connectToServer(m_folder.filePath("locator"));
         if (m_locator.waitForConnected())
             return;
-        if (m_process.waitForFinished(0))
+        if (!isRunning() || m_process.waitForFinished(0))
             throw Failure("the editor comes up", "it ended: " + log());
     } while (patience.isLeft());
     throw Failure("the editor lets its widgets be located", m_locator.errorString() + log());
@@ -66,11 +73,32 @@ void Editor::connectLocator()
 
 void Editor::waitForEnd()
 {
-    if (!m_process.waitForFinished(answerLimit))
+    if (!ends())
         throw Failure("the editor ends", words(look({})));
     if (m_process.exitStatus() != QProcess::NormalExit || m_process.exitCode() != 0)
         throw Failure("the editor ends with status 0",
                       QString::number(m_process.exitCode()) + ": " + log());
+}
+
+bool Editor::ends()
+{
+    if (isRunning() && !m_process.waitForFinished(answerLimit))
+        return false;
+    m_processId = 0;
+    return true;
+}
+
+void Editor::kill()
+{
+    m_process.kill();
+    ends();
+}
+
+bool Editor::wasKilled()
+{
+    if (!ends())
+        throw Failure("the editor ends", words(look({})));
+    return m_process.exitStatus() == QProcess::CrashExit && m_process.exitCode() == SIGKILL;
 }
 
 QString Editor::log() const

@@ -13,6 +13,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <atomic>
 #include <functional>
 
 class Editor
@@ -26,9 +27,15 @@ public:
     Editor(const Editor &) = delete;
     Editor &operator=(const Editor &) = delete;
 
-    void start(const QStringList &arguments = {}); // until its window takes the input
-    void waitForEnd();                             // by itself, with status 0
-    qint64 processId() const { return m_process.processId(); }
+    void launch(const QStringList &arguments = {}); // until it lets its widgets be located
+    void start(const QStringList &arguments = {});  // until its window takes the input
+    void waitForEnd();                              // by itself, with status 0
+    void kill();
+    // Waits for an end that has begun. True if it was SIGKILL, false if the editor ended by itself.
+    bool wasKilled();
+    bool isRunning() const { return m_process.state() == QProcess::Running; }
+    // 0 if none runs. Other threads may ask too.
+    qint64 processId() const { return m_processId; }
     QString log() const; // the last of what it wrote to standard error
 
     Screen &screen() { return m_screen; }
@@ -47,6 +54,7 @@ public:
 
 private:
     void connectLocator();
+    bool ends(); // false if it goes on for too long
     void pointAt(QPoint at);
 
     Screen &m_screen;
@@ -55,5 +63,6 @@ private:
     QTemporaryDir m_folder; // of the locator's socket
     QString m_logFile;
     QProcess m_process;
+    std::atomic<qint64> m_processId{0};
     QLocalSocket m_locator;
 };

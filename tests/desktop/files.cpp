@@ -32,10 +32,11 @@ QByteArray contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-void waitForFile(const QString &path, const QByteArray &content)
+void waitForFile(Editor &editor, const QString &path, const QByteArray &content)
 {
     const Patience patience;
     while (contentOf(path) != content) {
+        editor.look({}); // without an editor it would never come
         if (!patience.isLeft())
             throw Failure(path + " holds:\n" + content.left(2000), contentOf(path).left(2000));
     }

@@ -4,11 +4,12 @@
 #include <QByteArray>
 #include <QString>
 
+class Editor;
 class Workplace;
 
 // Empty if it can't be read.
 QByteArray contentOf(const QString &path);
-void waitForFile(const QString &path, const QByteArray &content);
+void waitForFile(Editor &editor, const QString &path, const QByteArray &content);
 
 // Holds a campaign among the author's files against what was entered, which a document of the
 // parts' folder tells; see expected_campaign.h. A Failure names the first difference.

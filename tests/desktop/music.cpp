@@ -19,6 +19,7 @@ void hearMusic(Workplace &place)
     click(place.editor(), "playMusicBtn");
     const Patience untilHeard;
     while (sound.sound().size() < aSecond) {
+        place.editor().look({}); // without an editor it would never come
         if (!untilHeard.isLeft())
             throw Failure("a second of music is heard",
                           QString::number(sound.count()) + " frames of silence");
@@ -26,6 +27,7 @@ void hearMusic(Workplace &place)
     click(place.editor(), "playMusicBtn");
     const Patience untilSilent;
     while (!sound.endsSilent(aQuarterOfASecond)) {
+        place.editor().look({});
         if (!untilSilent.isLeft())
             throw Failure("the music stops", "it plays on");
     }

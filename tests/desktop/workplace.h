@@ -31,6 +31,7 @@ public:
     QString gameFolder() const { return m_folder.filePath("game"); }
     QString gameMap(const QString &name) const { return gameFolder() + "/Maps/" + name; }
     QString file(const QString &name) const { return m_folder.filePath("campaigns/" + name); }
+    QString recoveryFolder() const { return m_folder.filePath("data/cmped/recovery"); }
 
 private:
     QProcessEnvironment environment() const;
