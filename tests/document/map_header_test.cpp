@@ -1,10 +1,7 @@
-#include "document/campaign_data.h"
+// Headers of maps that are well-formed: what every field of every version is read as.
+#include "tests/document/map_header_reading.h"
 
-#include "gamedata/limits.h"
-#include "tests/document/samples.h"
-#include "tests/support/processor_time.h"
-
-#include <QDataStream>
+#include <QVector>
 #include <QtTest>
 
 class MapHeaderTest : public QObject
@@ -17,8 +14,6 @@ private slots:
     void readsEveryVersion();
     void aCheckStopsAtAnyPlayers_data();
     void aCheckStopsAtAnyPlayers();
-    void theVersionsFieldIsNeverRefused_data();
-    void theVersionsFieldIsNeverRefused();
     void victoryHasThePayloadOfItsType_data();
     void victoryHasThePayloadOfItsType();
     void lossHasThePayloadOfItsType_data();
@@ -27,46 +22,11 @@ private slots:
     void listsAreAsLongAsTheirCountsSay();
     void aMainHeroOf255HasNeitherPortraitNorName();
     void onlyAMainTownOfOneHasAPlace();
-    void anyPrefixReads_data();
-    void anyPrefixReads();
-    void absurdCountsEndWithTheData_data();
-    void absurdCountsEndWithTheData();
-    void anUnreadHeaderReplacesTheOneBefore();
 };
 
 void MapHeaderTest::init()
 {
     samples::setTables();
-}
-
-static unsigned read(ScenarioData &scenario, const QByteArray &bytes, bool check, qint64 *pos)
-{
-    QDataStream stream(bytes);
-    stream.setByteOrder(QDataStream::LittleEndian);
-    const unsigned answer = scenario.ReadMapHeader(stream, check);
-    if (pos)
-        *pos = stream.device()->pos();
-    return answer;
-}
-
-static std::shared_ptr<MapHeader> headerOf(const QByteArray &bytes)
-{
-    ScenarioData scenario;
-    read(scenario, bytes, false, nullptr);
-    return scenario.mapHeader;
-}
-
-static void addVersions()
-{
-    QTest::addColumn<quint32>("version");
-    QTest::addColumn<quint32>("subVersion");
-    for (const quint32 version : {14u, 15u, 20u, 21u, 22u, 28u, 31u})
-        QTest::newRow(qPrintable(QString("version %1").arg(version))) << version << 0u;
-    for (const quint32 version : {32u, 33u}) {
-        for (const quint32 sub : {0u, 1u, 2u, 3u, 4u, 5u, 6u, 7u, 8u, 4294967295u})
-            QTest::newRow(qPrintable(QString("version %1.%2").arg(version).arg(sub)))
-                << version << sub;
-    }
 }
 
 void MapHeaderTest::readsEveryVersion_data()
@@ -81,7 +41,7 @@ void MapHeaderTest::readsEveryVersion()
     const QByteArray bytes = samples::mapHeader(version, subVersion);
     ScenarioData scenario;
     qint64 pos = 0;
-    QCOMPARE(read(scenario, bytes + "body", false, &pos), 72u);
+    QCOMPARE(readHeader(scenario, bytes + "body", false, &pos), 72u);
     QCOMPARE(pos, qint64(bytes.size()));
     const MapHeader &h = *scenario.mapHeader;
     QCOMPARE(h.version, version);
@@ -169,41 +129,12 @@ void MapHeaderTest::aCheckStopsAtAnyPlayers()
     const auto before = std::make_shared<MapHeader>();
     scenario.mapHeader = before;
     qint64 pos = 0;
-    QCOMPARE(read(scenario, samples::mapHeader(version, subVersion, 200), true, &pos), 1u);
+    QCOMPARE(readHeader(scenario, samples::mapHeader(version, subVersion, 200), true, &pos), 1u);
     QCOMPARE(pos, qint64(front + 1));
-    QCOMPARE(read(scenario, samples::mapHeader(version, subVersion, 0), true, &pos), unsigned(-1));
+    QCOMPARE(readHeader(scenario, samples::mapHeader(version, subVersion, 0), true, &pos),
+             unsigned(-1));
     QCOMPARE(pos, qint64(front + 1));
     QCOMPARE(scenario.mapHeader, before);
-}
-
-void MapHeaderTest::theVersionsFieldIsNeverRefused_data()
-{
-    QTest::addColumn<quint32>("version");
-    for (const quint32 version : {0u, 13u, 1000u, 4294967295u})
-        QTest::newRow(qPrintable(QString::number(version))) << version;
-}
-
-// Below 14 nothing is there that needs a version above 14; the bits are 160 all the same.
-void MapHeaderTest::theVersionsFieldIsNeverRefused()
-{
-    QFETCH(quint32, version);
-    ScenarioData scenario;
-    qint64 pos = 0;
-    ByteWriter w;
-    w.u32(version);
-    if (version >= 32)
-        w.u32(0);
-    w.u8(1).i32(36);
-    read(scenario, w.zeros(1000).bytes(), false, &pos);
-    QCOMPARE(scenario.mapHeader->version, version);
-    QCOMPARE(scenario.mapHeader->mapDimension, 36);
-    QCOMPARE(scenario.mapHeader->headerHeroes.available.size(), version < 32 ? 160 : 0);
-    // In front of the players: dimension to difficulty is 14 bytes, and a level limit if new.
-    // A player is 7 bytes and a portrait and an empty name if old, 7 more with lists if new.
-    const qint64 expected = version < 32
-                                ? 5 + 14 + 8 * (8 + 5) + 5 + 4 + 1 + 20 + 31
-                                : 9 + 15 + 8 * (8 + 5 + 2 + 5) + 5 + 4 + 1 + 4 + 4 + 1 + 31;
-    QCOMPARE(pos, expected);
 }
 
 // A header of version 14 or 28 without anything in it up to the victory condition.
@@ -272,7 +203,7 @@ void MapHeaderTest::victoryHasThePayloadOfItsType()
                              payload + '\xFF' + behindLoss(version);
     ScenarioData scenario;
     qint64 pos = 0;
-    read(scenario, bytes + QByteArray(50, '\x66'), false, &pos);
+    readHeader(scenario, bytes + QByteArray(50, '\x66'), false, &pos);
     QCOMPARE(pos, qint64(bytes.size()));
     const VictoryCondition &victory = scenario.mapHeader->victory;
     QCOMPARE(int(victory.type), type);
@@ -306,7 +237,7 @@ void MapHeaderTest::lossHasThePayloadOfItsType()
     const QByteArray bytes = upToVictory(28) + '\xFF' + char(type) + payload + behindLoss(28);
     ScenarioData scenario;
     qint64 pos = 0;
-    read(scenario, bytes + QByteArray(50, '\x66'), false, &pos);
+    readHeader(scenario, bytes + QByteArray(50, '\x66'), false, &pos);
     QCOMPARE(pos, qint64(bytes.size()));
     const LossCondition &loss = scenario.mapHeader->loss;
     QCOMPARE(int(loss.type), type);
@@ -346,7 +277,7 @@ void MapHeaderTest::listsAreAsLongAsTheirCountsSay()
     const QByteArray bytes = w.zeros(31).bytes();
     ScenarioData scenario;
     qint64 pos = 0;
-    read(scenario, bytes + "body", false, &pos);
+    readHeader(scenario, bytes + "body", false, &pos);
     QCOMPARE(pos, qint64(bytes.size()));
     const MapHeader &header = *scenario.mapHeader;
     QCOMPARE(header.players[7].heroInfo.size(), size_t(258));
@@ -370,73 +301,6 @@ void MapHeaderTest::onlyAMainTownOfOneHasAPlace()
     const auto header = headerOf(samples::mapHeader(28));
     QCOMPARE(int(header->players[1].hasMainTown), 2);
     QCOMPARE(header->players[1].mainTownPosition, (std::array<quint8, 3>{}));
-}
-
-void MapHeaderTest::anyPrefixReads_data()
-{
-    addVersions();
-}
-
-// What is missing reads as zeros, so every prefix has the fields that lie in it.
-void MapHeaderTest::anyPrefixReads()
-{
-    QFETCH(quint32, version);
-    QFETCH(quint32, subVersion);
-    const QByteArray bytes = samples::mapHeader(version, subVersion);
-    const QByteArray inFront = bytes.left(bytes.indexOf("Frostmere") + 9);
-    for (int size = 0; size < bytes.size(); ++size) {
-        const auto header = headerOf(bytes.left(size));
-        QVERIFY(header);
-        QCOMPARE(header->version, size >= 4 ? version : 0u);
-        if (size >= inFront.size())
-            QCOMPARE(header->mapName, QString("Frostmere"));
-    }
-}
-
-void MapHeaderTest::absurdCountsEndWithTheData_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    const QByteArray full = samples::mapHeader(32);
-    const auto with = [&](const QByteArray &before, int offset) {
-        const int at = full.indexOf(before) + offset;
-        return full.left(at) + ByteWriter().u32(4294967295u).bytes() + full.mid(at + 4);
-    };
-    QTest::newRow("map name") << with("Frostmere", -4);
-    QTest::newRow("map name of the largest signed length")
-        << full.left(full.indexOf("Frostmere") - 4) + ByteWriter().u32(2147483647u).bytes();
-    QTest::newRow("description") << with("A cold shore", -4);
-    QTest::newRow("main hero's name") << with("Orla", -4);
-    QTest::newRow("heroes of a player") << with("Tamsin", -9);
-    QTest::newRow("hero's name") << with("Tamsin", -4);
-    QTest::newRow("bits") << with(QByteArray("\xA3\0\0\0\5", 5), 0);
-    QTest::newRow("placeholders") << with(QByteArray("\3\0\0\0\7\x08\x09", 7), 0);
-    QTest::newRow("custom hero's name") << with("Brannoc", -4);
-}
-
-void MapHeaderTest::absurdCountsEndWithTheData()
-{
-    QFETCH(QByteArray, bytes);
-    const ProcessorTime time;
-    const auto header = headerOf(bytes);
-    QVERIFY(time.milliseconds() < 1000);
-    QVERIFY(header);
-    const HeaderHeroes &heroes = header->headerHeroes;
-    QVERIFY(header->mapName.size() + header->mapDescription.size() <= bytes.size());
-    QVERIFY(header->players[0].heroInfo.size() <= size_t(bytes.size()));
-    QCOMPARE(heroes.available.size(), int(heroes.availableCount));
-    QVERIFY(heroes.availableCount <= limits::bitsWithoutData);
-    QVERIFY(heroes.placeholders.size() <= size_t(bytes.size()));
-}
-
-void MapHeaderTest::anUnreadHeaderReplacesTheOneBefore()
-{
-    ScenarioData scenario;
-    read(scenario, samples::mapHeader(28), false, nullptr);
-    const auto before = scenario.mapHeader;
-    QCOMPARE(read(scenario, {}, false, nullptr), 0u);
-    QVERIFY(scenario.mapHeader != before);
-    QCOMPARE(before->mapName, QString("Frostmere"));
-    QCOMPARE(scenario.mapHeader->mapName, QString());
 }
 
 QTEST_GUILESS_MAIN(MapHeaderTest)
