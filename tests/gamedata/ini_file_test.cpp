@@ -1,41 +1,22 @@
-// The settings file: its dialect, its tree, and writing it back.
-#include "gamedata/ini_file.h"
-
+// The file of the game's settings: its dialect, how it is read and written, and its loading at the
+// start.
 #include "gamedata/game_dir.h"
+#include "tests/gamedata/ini_folder.h"
 #include "tests/gamedata/marking_translator.h"
 #include "tests/support/report_recorder.h"
 
 #include <QElapsedTimer>
-#include <QTemporaryDir>
 #include <QtTest>
-
-#include <climits>
 
 #include <sys/stat.h>
 
-namespace {
-
-// A tree as text: "section{key:value|key:value}section{...}".
-QByteArray shapeOf(const _Ini_ &settings)
-{
-    std::string text;
-    for (const auto &section : settings.sections) {
-        text += section->key + "{";
-        for (const auto &item : section->items)
-            text += (&item == &section->items.front() ? "" : "|") + item->key + ":" + item->value;
-        text += "}";
-    }
-    return QByteArray::fromStdString(text);
-}
-
-} // namespace
-
-class IniFileTest : public QObject
+class IniFileTest : public QObject, private IniFolder
 {
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() { reset(); }
+
     void readsTheDialect_data();
     void readsTheDialect();
     void readsTruncatedFilesAtEveryLength();
@@ -52,44 +33,12 @@ private slots:
     void takesFilesUpToTheLimit();
     void readsAMillionNamesAtOnce_data();
     void readsAMillionNamesAtOnce();
-    void findsTheFirstOfAName();
-    void comparesNamesExactly();
-    void setItemsReplacesAll();
-    void convertsIntegers_data();
-    void convertsIntegers();
-    void missingIntegerIsTheDefault();
-    void missingStringIsTheDefaultPointerItself();
-    void stringAnswersOutliveChanges();
-    void setStringValAddsWhatIsMissing();
     void holdsNoStreamAtRest();
     void loadEndsWithoutTheFile_data();
     void loadEndsWithoutTheFile();
     void loadSaysSoInTheWindowsLanguage();
     void loadReadsTheGamesFile();
-
-private:
-    QString path() const { return m_dir->filePath(QStringLiteral("Ravn_settings.ini")); }
-    _Ini_ settings() const { return _Ini_(path().toStdWString()); }
-    void store(const QByteArray &bytes) const
-    {
-        QFile file(path());
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(bytes), qint64(bytes.size()));
-    }
-    QByteArray stored() const
-    {
-        QFile file(path());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
-    }
-
-    std::unique_ptr<QTemporaryDir> m_dir;
 };
-
-void IniFileTest::init()
-{
-    m_dir = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_dir->isValid());
-}
 
 void IniFileTest::readsTheDialect_data()
 {
@@ -306,118 +255,6 @@ void IniFileTest::readsAMillionNamesAtOnce()
     QVERIFY(clock.elapsed() < 60000); // a walk for each name takes hours
     QCOMPARE(sections ? tree.sections.size() : tree.sections.front()->items.size(),
              std::size_t(count));
-}
-
-void IniFileTest::findsTheFirstOfAName()
-{
-    _Ini_ tree = settings();
-    QVERIFY(!tree.GetSection("S"));
-    _IniSection_ *first = tree.NewSection("S");
-    QVERIFY(tree.NewSection("S") != first);
-    QCOMPARE(tree.sections.size(), std::size_t(2));
-    QCOMPARE(tree.GetSection("S"), first);
-    QVERIFY(!first->GetItem("a"));
-    _IniItem_ *item = first->NewItem("a");
-    QVERIFY(first->NewItem("a") != item);
-    QCOMPARE(first->items.size(), std::size_t(2));
-    QCOMPARE(first->GetItem("a"), item);
-}
-
-void IniFileTest::comparesNamesExactly()
-{
-    store("[Global Settings]\nLanguage=1\nSpaced =2\n");
-    _Ini_ tree = settings();
-    tree.Read();
-    QCOMPARE(tree.GetIntVal("Global Settings", "Language", -1), 1);
-    QCOMPARE(tree.GetIntVal("global settings", "Language", -1), -1);
-    QCOMPARE(tree.GetIntVal("Global Settings", "language", -1), -1);
-    QCOMPARE(tree.GetIntVal("Global Settings", "Spaced", -1), -1);
-    QCOMPARE(tree.GetIntVal("Global Settings", "Spaced ", -1), 2);
-}
-
-void IniFileTest::setItemsReplacesAll()
-{
-    _IniSection_ section;
-    section.NewItem("old");
-    section.SetItems("a=1\nb=2");
-    QCOMPARE(section.items.size(), std::size_t(2));
-    QVERIFY(!section.GetItem("old"));
-    QCOMPARE(section.GetItem("b")->StringVal(), std::string("2"));
-    section.SetItems("");
-    QVERIFY(section.items.empty());
-}
-
-void IniFileTest::convertsIntegers_data()
-{
-    QTest::addColumn<QByteArray>("value");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("number") << QByteArray("2") << 2;
-    QTest::newRow("text around") << QByteArray("2 (en)") << 2;
-    QTest::newRow("negative") << QByteArray(" -1") << -1;
-    QTest::newRow("no digits") << QByteArray("english") << 0;
-    QTest::newRow("empty") << QByteArray("") << 0;
-    QTest::newRow("digits apart") << QByteArray("1 and 2") << 12;
-    QTest::newRow("minus inside") << QByteArray("1-2") << 1;
-    QTest::newRow("minuses alone") << QByteArray("--") << 0;
-    QTest::newRow("too large") << QByteArray("99999999999999999999") << INT_MAX;
-}
-
-void IniFileTest::convertsIntegers()
-{
-    QFETCH(QByteArray, value);
-    QFETCH(int, expected);
-    _Ini_ tree = settings();
-    tree.SetStringVal("S", "a", value.constData());
-    QCOMPARE(tree.GetIntVal("S", "a", -9), expected);
-    QCOMPARE(tree.GetSection("S")->GetItem("a")->IntVal(), expected);
-}
-
-void IniFileTest::missingIntegerIsTheDefault()
-{
-    _Ini_ tree = settings();
-    QCOMPARE(tree.GetIntVal("S", "a", -7), -7);
-    tree.NewSection("S");
-    QCOMPARE(tree.GetIntVal("S", "a", -7), -7);
-}
-
-void IniFileTest::missingStringIsTheDefaultPointerItself()
-{
-    const char fallback[] = "fallback";
-    _Ini_ tree = settings();
-    QVERIFY(tree.GetStringVal("S", "a", fallback) == fallback);
-    tree.NewSection("S");
-    QVERIFY(tree.GetStringVal("S", "a", fallback) == fallback);
-    QVERIFY(!tree.GetStringVal("S", "a", nullptr));
-    tree.SetStringVal("S", "a", "fallback");
-    QVERIFY(tree.GetStringVal("S", "a", fallback) != fallback);
-    QCOMPARE(tree.GetStringVal("S", "a", fallback), fallback);
-}
-
-void IniFileTest::stringAnswersOutliveChanges()
-{
-    _Ini_ tree = settings();
-    tree.SetStringVal("S", "a", "first");
-    const char *first = tree.GetStringVal("S", "a", "");
-    for (int i = 0; i < 1000; ++i) {
-        tree.SetStringVal("S", "a", QByteArray::number(i).constData());
-        QCOMPARE(QByteArray(tree.GetStringVal("S", "a", "")), QByteArray::number(i));
-    }
-    tree.sections.clear();
-    QCOMPARE(first, "first");
-    tree.SetStringVal("S", "a", "first");
-    QVERIFY(tree.GetStringVal("S", "a", "") == first); // the same answer takes no more memory
-}
-
-void IniFileTest::setStringValAddsWhatIsMissing()
-{
-    store("[S]\na=1\n[T]\nb=2\n");
-    _Ini_ tree = settings();
-    tree.Read();
-    tree.SetStringVal("S", "a", "changed");
-    tree.SetStringVal("S", "c", "new");
-    tree.SetStringVal("U", "d", "new section");
-    QCOMPARE(shapeOf(tree), QByteArray("S{a:changed|c:new}T{b:2}U{d:new section}"));
-    QCOMPARE(stored(), QByteArray("[S]\na=1\n[T]\nb=2\n")); // in memory only
 }
 
 void IniFileTest::holdsNoStreamAtRest()

@@ -1,79 +1,15 @@
-// Picture records of every kind, and records that aren't what they say.
-#include "gamedata/limits.h"
-#include "gamedata/pcx_image.h"
+// Pictures that are well-formed: their pixels in every format.
 #include "tests/gamedata/game_files.h"
-#include "tests/support/picture_records.h"
+#include "tests/gamedata/pcx_readers.h"
 #include "tests/support/report_recorder.h"
 
 #include <QRandomGenerator>
-#include <QTest>
-
-#include <functional>
-
-using namespace picture_records;
 
 namespace {
-
-using Reader = std::function<QImage(char *record, qint64 size)>;
-
-struct NamedReader
-{
-    const char *name;
-    Reader read;
-    QByteArray record; // a whole one of its kind, 3 by 2 pixels
-};
-
-const QColor cyan(0, 255, 255);
-
-QVector<QColor> sixColors()
-{
-    return {QColor(1, 2, 3),    QColor(4, 5, 6),    QColor(7, 8, 9),
-            QColor(10, 20, 30), QColor(40, 50, 60), QColor(70, 80, 90)};
-}
-
-QByteArray smallPaletteRecord()
-{
-    return paletteRecord(3, 2, QByteArray("\x00\x01\x02\xff\x01\x00", 6),
-                         {{0, QColor(11, 12, 13)}, {1, cyan}, {255, QColor(21, 22, 23)}});
-}
-
-QVector<NamedReader> readers()
-{
-    const QByteArray plain = plainRecord(3, 2, sixColors());
-    const QByteArray p32 = p32Record(3, 2, sixColors());
-    const QByteArray indexed = smallPaletteRecord();
-    const auto keyed = [](char *record, qint64 size) {
-        return ReadFromArrayPalette(record, cyan, size);
-    };
-    const auto slow = [](char *record, qint64 size) {
-        return ReadFromArrayPalette_Slow(record, cyan, size);
-    };
-    return {{"24 bits", ReadFromArray, plain},
-            {"32 bits by its magic", ReadFromArray, p32},
-            {"32 bits", ReadFromArray_P32, p32},
-            {"24 bits to 16", ReadFromArray_16bit, plain},
-            {"palette", keyed, indexed},
-            {"palette, slow", slow, indexed},
-            {"palette to 16", ReadFromArrayPalette_16bit, indexed}};
-}
-
-void addReaderRows()
-{
-    QTest::addColumn<int>("reader");
-    const QVector<NamedReader> all = readers();
-    for (int i = 0; i < all.size(); ++i)
-        QTest::newRow(all[i].name) << i;
-}
 
 quint16 pixel16(const QImage &image, int x, int y)
 {
     return reinterpret_cast<const quint16 *>(image.constScanLine(y))[x];
-}
-
-QImage readExactly(const Reader &read, const QByteArray &record)
-{
-    const ExactBuffer buffer(record);
-    return read(buffer.data(), record.size());
 }
 
 } // namespace
@@ -94,22 +30,8 @@ private slots:
     void slowPaletteReaderAgreesWithTheFast_data();
     void slowPaletteReaderAgreesWithTheFast();
     void sixteenBitPaletteKeepsCyan();
-    void recordWithoutPixelsGivesNullImage_data();
-    void recordWithoutPixelsGivesNullImage();
-    void truncatedRecordGivesNullImage_data();
-    void truncatedRecordGivesNullImage();
-    void bytesBehindTheRecordAreIgnored_data();
-    void bytesBehindTheRecordAreIgnored();
-    void recordOfUnknownSizeIsTrusted_data();
-    void recordOfUnknownSizeIsTrusted();
-    void absurdSidesGiveNullImage_data();
-    void absurdSidesGiveNullImage();
-    void largestSideIsRead();
-    void noRecordGivesNullImage_data();
-    void noRecordGivesNullImage();
     void pictureIsOpenedByName();
     void missingNameGivesNullImageWithoutMessage();
-    void damagedPictureOpensAsNullImage();
 };
 
 void PcxImageTest::plainRecordBecomesOpaqueRgb32FromTheTop()
@@ -267,139 +189,6 @@ void PcxImageTest::sixteenBitPaletteKeepsCyan()
     QCOMPARE(image.pixelColor(1, 0), cyan);
 }
 
-void PcxImageTest::recordWithoutPixelsGivesNullImage_data()
-{
-    addReaderRows();
-}
-
-void PcxImageTest::recordWithoutPixelsGivesNullImage()
-{
-    QFETCH(int, reader);
-    const NamedReader named = readers()[reader];
-    const auto header = named.record.startsWith("P32F") ? p32Header : plainHeader;
-    const QVector<QPair<quint32, quint32>> sizes{{0, 0}, {0, 5}, {5, 0}, {0, 0xffffffff}};
-    for (const auto &size : sizes) {
-        // Not a byte behind the header: a look at a pixel or the palette is a fault.
-        const QByteArray record = header(size.first, size.second);
-        QVERIFY(readExactly(named.read, record).isNull());
-        const ExactBuffer buffer(record);
-        QVERIFY(named.read(buffer.data(), uncheckedRecordSize).isNull());
-    }
-}
-
-void PcxImageTest::truncatedRecordGivesNullImage_data()
-{
-    addReaderRows();
-}
-
-void PcxImageTest::truncatedRecordGivesNullImage()
-{
-    QFETCH(int, reader);
-    const NamedReader named = readers()[reader];
-    for (int length = 0; length < named.record.size(); ++length)
-        QVERIFY2(readExactly(named.read, named.record.left(length)).isNull(),
-                 qPrintable(QString::number(length)));
-    QCOMPARE(readExactly(named.read, named.record).size(), QSize(3, 2));
-}
-
-void PcxImageTest::bytesBehindTheRecordAreIgnored_data()
-{
-    addReaderRows();
-}
-
-void PcxImageTest::bytesBehindTheRecordAreIgnored()
-{
-    QFETCH(int, reader);
-    const NamedReader named = readers()[reader];
-    QCOMPARE(readExactly(named.read, named.record + QByteArray(9, 'x')),
-             readExactly(named.read, named.record));
-}
-
-void PcxImageTest::recordOfUnknownSizeIsTrusted_data()
-{
-    QTest::addColumn<QImage>("unsized");
-    QTest::addColumn<QImage>("sized");
-    const QVector<NamedReader> all = readers();
-    const ExactBuffer plain(all[0].record);
-    const ExactBuffer p32(all[2].record);
-    const ExactBuffer indexed(all[4].record);
-    const auto sized = [&](int reader) {
-        return readExactly(all[reader].read, all[reader].record);
-    };
-    QTest::newRow(all[0].name) << ReadFromArray(plain.data()) << sized(0);
-    QTest::newRow(all[1].name) << ReadFromArray(p32.data()) << sized(1);
-    QTest::newRow(all[2].name) << ReadFromArray_P32(p32.data()) << sized(2);
-    QTest::newRow(all[3].name) << ReadFromArray_16bit(plain.data()) << sized(3);
-    QTest::newRow(all[4].name) << ReadFromArrayPalette(indexed.data(), cyan) << sized(4);
-    QTest::newRow(all[5].name) << ReadFromArrayPalette_Slow(indexed.data(), cyan) << sized(5);
-    QTest::newRow(all[6].name) << ReadFromArrayPalette_16bit(indexed.data()) << sized(6);
-}
-
-void PcxImageTest::recordOfUnknownSizeIsTrusted()
-{
-    QFETCH(QImage, unsized);
-    QFETCH(QImage, sized);
-    QVERIFY(!unsized.isNull());
-    QCOMPARE(unsized, sized);
-}
-
-void PcxImageTest::absurdSidesGiveNullImage_data()
-{
-    addReaderRows();
-}
-
-void PcxImageTest::absurdSidesGiveNullImage()
-{
-    QFETCH(int, reader);
-    const NamedReader named = readers()[reader];
-    const auto header = named.record.startsWith("P32F") ? p32Header : plainHeader;
-    const quint32 past = limits::pictureSide + 1;
-    // Products that are small in 32 bits, and sides that are negative there.
-    const QVector<QPair<quint32, quint32>> sizes{{past, 1},
-                                                 {1, past},
-                                                 {0x10000, 0x10000},
-                                                 {0x80000000, 2},
-                                                 {0xffffffff, 0xffffffff},
-                                                 {0xffffffff, 1},
-                                                 {1, 0xffffffff},
-                                                 {0x80000001, 0x80000001}};
-    const QByteArray plenty(int(past) * 4 + 768, '\x01');
-    for (const auto &size : sizes) {
-        QVERIFY(readExactly(named.read, header(size.first, size.second)).isNull());
-        QVERIFY(readExactly(named.read, header(size.first, size.second) + plenty).isNull());
-    }
-}
-
-void PcxImageTest::largestSideIsRead()
-{
-    const int side = int(limits::pictureSide);
-    const QByteArray indexes(side, '\x03');
-    const QMap<int, QColor> colors{{3, QColor(9, 8, 7)}};
-    const Reader read = [](char *record, qint64 size) {
-        return ReadFromArrayPalette(record, cyan, size);
-    };
-    const QImage wide = readExactly(read, paletteRecord(limits::pictureSide, 1, indexes, colors));
-    QCOMPARE(wide.size(), QSize(16384, 1));
-    QCOMPARE(wide.pixel(16383, 0), 0xff090807u);
-    const QImage tall = readExactly(read, paletteRecord(1, limits::pictureSide, indexes, colors));
-    QCOMPARE(tall.size(), QSize(1, 16384));
-    QCOMPARE(tall.pixel(0, 16383), 0xff090807u);
-}
-
-void PcxImageTest::noRecordGivesNullImage_data()
-{
-    addReaderRows();
-}
-
-void PcxImageTest::noRecordGivesNullImage()
-{
-    QFETCH(int, reader);
-    const NamedReader named = readers()[reader];
-    QVERIFY(named.read(nullptr, uncheckedRecordSize).isNull());
-    QVERIFY(named.read(nullptr, 0).isNull());
-    QVERIFY(named.read(nullptr, 1000).isNull());
-}
-
 void PcxImageTest::pictureIsOpenedByName()
 {
     const game_files::GameFolder game;
@@ -427,16 +216,6 @@ void PcxImageTest::missingNameGivesNullImageWithoutMessage()
     QVERIFY(OpenPcx8Image_16bit("castle.pcx").isNull());
     QVERIFY(OpenPcx8Image(QString()).isNull());
     QVERIFY(recorder.errors.isEmpty());
-}
-
-void PcxImageTest::damagedPictureOpensAsNullImage()
-{
-    const game_files::GameFolder game;
-    const QByteArray record = smallPaletteRecord();
-    game.provide({{"short.pcx", record.left(record.size() - 1)}, {"none.pcx", QByteArray()}});
-    QVERIFY(OpenPcx8Image("short.pcx").isNull());
-    QVERIFY(OpenPcx8Image_16bit("short.pcx").isNull());
-    QVERIFY(OpenPcx8Image("none.pcx").isNull());
 }
 
 QTEST_GUILESS_MAIN(PcxImageTest)

@@ -1,62 +1,9 @@
-// The table file: its entries, looking values up, and files that are cut or lie.
-#include "gamedata/runtime/dat_file.h"
+// Table files that are well-formed: what is read of them, and what is looked up in them.
+#include "tests/runtime/dat_bytes.h"
 
-#include "tests/support/byte_writer.h"
-
-#include <QElapsedTimer>
 #include <QtTest>
 
-#include <climits>
-#include <malloc.h>
-#include <memory>
-
 namespace {
-
-struct Entry
-{
-    QByteArray name;
-    QByteArray text;
-    QList<QByteArray> strings;
-    QList<int> ints;
-    int hasStream = 0;
-    QByteArray blob; // written with its size if hasStream is set
-};
-
-ByteWriter header(qint32 count)
-{
-    return ByteWriter().raw("RDAT").u32(0x1234).i32(count);
-}
-
-ByteWriter &operator<<(ByteWriter &out, const Entry &entry)
-{
-    out.text(entry.name).text(entry.text).i32(entry.strings.size());
-    for (const QByteArray &string : entry.strings)
-        out.text(string);
-    out.u8(unsigned(entry.hasStream));
-    if (entry.hasStream)
-        out.text(entry.blob);
-    out.i32(entry.ints.size());
-    for (const int number : entry.ints)
-        out.i32(number);
-    return out;
-}
-
-using Table = std::unique_ptr<TDatFile>;
-
-TStreamPtr<TMemoryStream> streamOf(const QByteArray &bytes)
-{
-    TStreamPtr<TMemoryStream> stream(TMemoryStream::Create(unsigned(bytes.size())));
-    std::copy(bytes.begin(), bytes.end(), stream->data);
-    return stream;
-}
-
-Table load(const QByteArray &bytes)
-{
-    const TStreamPtr<TMemoryStream> stream = streamOf(bytes);
-    Table table(TDatFile::Create());
-    table->Load(stream.get());
-    return table;
-}
 
 // Another kind of stream, which counts what is asked of it.
 class CountingStream : public TStream
@@ -81,22 +28,6 @@ private:
     TStreamPtr<TMemoryStream> m_bytes;
 };
 
-constexpr int unhurriedMilliseconds = 60000; // with sanitizers on a busy machine
-
-QByteArray bytesOf(const TString &text)
-{
-    return {text.c_str(), text.length};
-}
-
-QByteArray sampleBytes()
-{
-    ByteWriter out = header(3);
-    out << Entry{"monst150", "note", {"", "b", "c", "Moss Drake"}, {1, -2, INT_MAX}, 0, {}};
-    out << Entry{"art147", {}, {"x", "Lantern"}, {}, 7, "blob"};
-    out << Entry{"music", {}, {}, {5}, 1, {}};
-    return out.bytes();
-}
-
 } // namespace
 
 class DatFileTest : public QObject
@@ -116,15 +47,6 @@ private slots:
     void looksUpValues();
     void answersTheOwnBuffer();
     void emptyTableAnswersTheDefault();
-    void otherMagicGivesAnEmptyTable_data();
-    void otherMagicGivesAnEmptyTable();
-    void negativeLengthsMeanEmpty();
-    void readsTruncatedFilesAtEveryLength();
-    void cutsWhatTheFileCantHold_data();
-    void cutsWhatTheFileCantHold();
-    void absurdCountsTakeNoMemory_data();
-    void absurdCountsTakeNoMemory();
-    void looksAtNoMoreThanTheLimit();
     void readsItsStreamInOneGo();
     void readsLargeTables();
     void readsCountedStrings();
@@ -291,143 +213,6 @@ void DatFileTest::emptyTableAnswersTheDefault()
     QVERIFY(table->GetStrVal(7, -1, fallback) == fallback);
     QCOMPARE(table->GetIntVal(0, 0, 42), 42);
     QCOMPARE(table->GetIntVal(-1, 3, 42), 42);
-}
-
-void DatFileTest::otherMagicGivesAnEmptyTable_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("nothing") << QByteArray();
-    QTest::newRow("magic cut short") << QByteArray("RDA");
-    QTest::newRow("magic alone") << QByteArray("RDAT");
-    QTest::newRow("lower case") << QByteArray("rdat") + sampleBytes().mid(4);
-    QTest::newRow("zeros") << QByteArray(100, '\0');
-}
-
-void DatFileTest::otherMagicGivesAnEmptyTable()
-{
-    QFETCH(QByteArray, bytes);
-    QCOMPARE(load(bytes)->entries.length, 0);
-}
-
-void DatFileTest::negativeLengthsMeanEmpty()
-{
-    ByteWriter out = header(2);
-    out.i32(-1).i32(INT_MIN).i32(-9).u8(0).i32(-1);
-    out << Entry{"hero8", {}, {"name"}, {}, 0, {}};
-    const Table table = load(out.bytes());
-    QCOMPARE(table->entries.length, 2);
-    QCOMPARE(table->entries[0].name.length, 0);
-    QCOMPARE(table->entries[0].strings.length, 0);
-    QCOMPARE(table->entries[0].ints.length, 0);
-    QCOMPARE(table->entries[0].id, -1);
-    QCOMPARE(table->entries[1].id, 8);
-    QCOMPARE(load(header(-1).bytes())->entries.length, 0);
-}
-
-void DatFileTest::readsTruncatedFilesAtEveryLength()
-{
-    // What an entry has before the cut is read, what it would have behind it is zero.
-    ByteWriter out = header(2);
-    out << Entry{"a1", {}, {"one"}, {7}, 0, {}};
-    const int firstEnds = out.size();
-    out << Entry{"b2", "t", {"two", "three"}, {8, 9}, 1, "blob"};
-    for (int size = 0; size < out.size(); ++size) {
-        const Table table = load(out.bytes().left(size));
-        QCOMPARE(table->entries.length, size <= 12 ? 0 : size <= firstEnds ? 1 : 2);
-        if (size >= firstEnds) {
-            QCOMPARE(table->GetIntVal(0, 0, 0), 7);
-            QCOMPARE(QByteArray(table->GetStrVal(0, 0, "")), QByteArray("one"));
-        }
-        const TDatFileEntry &last = table->entries[1];
-        QVERIFY(QByteArray("b2").startsWith(last.name.c_str()) ||
-                QByteArray("a1").startsWith(last.name.c_str()));
-        for (int i = 0; size > firstEnds && i < last.ints.length; ++i)
-            QVERIFY(last.ints[i] == 0 || last.ints[i] == 8 + i);
-    }
-    const Table whole = load(out.bytes());
-    QCOMPARE(whole->GetIntVal(1, 1, 0), 9);
-}
-
-void DatFileTest::cutsWhatTheFileCantHold_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<int>("strings");
-    QTest::addColumn<int>("ints");
-    QTest::addColumn<int>("blob"); // -1 for none
-    QTest::newRow("name") << header(1).i32(INT_MAX).raw("abc9").bytes() << QByteArray("abc9") << 0
-                          << 0 << -1;
-    QTest::newRow("strings") << header(1).text("n").i32(0).i32(INT_MAX).text("s").bytes()
-                             << QByteArray("n") << 1 << 0 << -1;
-    QTest::newRow("string") << header(1).text("n").i32(0).i32(2).i32(INT_MAX).raw("s").bytes()
-                            << QByteArray("n") << 1 << 0 << -1;
-    QTest::newRow("ints") << header(1).text("n").i32(0).i32(0).u8(0).i32(INT_MAX).i32(1).bytes()
-                          << QByteArray("n") << 0 << 1 << -1;
-    QTest::newRow("blob") << header(1).text("n").i32(0).i32(0).u8(1).i32(INT_MAX).raw("xy").bytes()
-                          << QByteArray("n") << 0 << 0 << 2;
-    QTest::newRow("a number's first half is no flag")
-        << header(1).text("n").i32(0).raw(QByteArray("\1\1")).bytes() << QByteArray("n") << 0 << 0
-        << -1;
-}
-
-void DatFileTest::cutsWhatTheFileCantHold()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(QByteArray, name);
-    QFETCH(int, strings);
-    QFETCH(int, ints);
-    QFETCH(int, blob);
-    const Table table = load(bytes);
-    QCOMPARE(table->entries.length, 1);
-    const TDatFileEntry &entry = table->entries[0];
-    QCOMPARE(bytesOf(entry.name), name);
-    QCOMPARE(entry.strings.length, strings);
-    QCOMPARE(entry.ints.length, ints);
-    QCOMPARE(entry.stream ? entry.stream->size : -1, blob);
-    QCOMPARE(int(entry.hasStream), blob < 0 ? 0 : 1);
-}
-
-void DatFileTest::absurdCountsTakeNoMemory_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<int>("entries");
-    // 17 zero bytes are an empty entry; 88 hold five and the beginning of a sixth.
-    QTest::newRow("100 bytes") << header(INT_MAX).zeros(88).bytes() << 6;
-    QTest::newRow("no entries") << header(INT_MAX).bytes() << 0;
-    QTest::newRow("a megabyte") << header(INT_MAX).zeros(1 << 20).bytes() << 61681;
-    QTest::newRow("absurd everywhere")
-        << header(INT_MAX).raw(QByteArray(1 << 20, '\x7f')).bytes() << 1;
-}
-
-void DatFileTest::absurdCountsTakeNoMemory()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(int, entries);
-    const auto inUse = [] {
-        const auto info = mallinfo2();
-        return qint64(info.uordblks) + qint64(info.hblkhd);
-    };
-    const qint64 before = inUse();
-    QElapsedTimer clock;
-    clock.start();
-    const Table table = load(bytes);
-    QVERIFY(clock.elapsed() < unhurriedMilliseconds); // believing the count takes much longer
-    QCOMPARE(table->entries.length, entries);
-    QVERIFY(inUse() - before < 12 * qint64(bytes.size()) + 4096);
-}
-
-void DatFileTest::looksAtNoMoreThanTheLimit()
-{
-    const QByteArray bytes = sampleBytes();
-    const TStreamPtr<TMemoryStream> stream = streamOf(bytes);
-    const Table table(TDatFile::Create());
-    table->Load(stream.get(), bytes.size());
-    QCOMPARE(table->GetIntVal(2, 0, 0), 5);
-    table->Load(stream.get(), bytes.size() - 1);
-    QCOMPARE(table->entries.length, 3);
-    QCOMPARE(table->GetIntVal(2, 0, 0), 0);
-    table->Load(stream.get(), -1);
-    QCOMPARE(table->entries.length, 0);
 }
 
 void DatFileTest::readsItsStreamInOneGo()
