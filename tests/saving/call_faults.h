@@ -29,6 +29,13 @@ constexpr std::array<CallFault, 5> callFaults{{
     {"half", FaultKind::Half, 0, nullptr},
 }};
 
+// Half a count means something only to calls that count.
+inline bool concerns(const CallFault &fault, const std::string &call)
+{
+    return fault.kind != FaultKind::Half || call == "pread" || call == "pwrite" || call == "read" ||
+           call == "write";
+}
+
 enum class Duty
 {
     Unknown,

@@ -1,11 +1,12 @@
 #include "tests/saving/fault_injector.h"
 
+#include "tests/saving/fault_environment.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstdarg>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <type_traits>
@@ -213,6 +214,17 @@ mode_t modeOf(int flags, va_list arguments)
         return transfer(title, handle, wanted, [&](std::size_t size) { return real arguments; });  \
     }
 
+#define SYNCS(name, symbol)                                                                        \
+    extern "C" int name(int handle) STANDS_FOR(symbol);                                            \
+    int name(int handle)                                                                           \
+    {                                                                                              \
+        static const auto real = systems<int(int)>(symbol);                                        \
+        const bool watched = kindOf(handle) != Opened::Elsewhere;                                  \
+        const bool waits = !armed || !watched || plan.kind == FaultKind::None;                     \
+        return carryOut(symbol, watched, kindOf(handle),                                           \
+                        [&] { return waits ? real(handle) : 0; });                                 \
+    }
+
 OPENS(faultyOpen, "open")
 OPENS(faultyOpen64, "open64")
 OPENS_AT(faultyOpenAt, "openat")
@@ -235,8 +247,8 @@ TRANSFERS(faultyPwrite64, "pwrite64", "pwrite", const void *,
 
 ON_HANDLE(faultyWritev, "writev", "writev", ssize_t, (int handle, const iovec *pieces, int count),
           (handle, pieces, count))
-ON_HANDLE(faultyFsync, "fsync", "fsync", int, (int handle), (handle))
-ON_HANDLE(faultyFdatasync, "fdatasync", "fdatasync", int, (int handle), (handle))
+SYNCS(faultyFsync, "fsync")
+SYNCS(faultyFdatasync, "fdatasync")
 ON_HANDLE(faultyFtruncate, "ftruncate", "ftruncate", int, (int handle, off_t size), (handle, size))
 ON_HANDLE(faultyFtruncate64, "ftruncate64", "ftruncate", int, (int handle, off_t size),
           (handle, size))
@@ -362,45 +374,7 @@ __attribute__((visibility("default"))) std::vector<std::string> disarmFaults()
 
 namespace {
 
-std::string variable(const char *name)
-{
-    const char *value = std::getenv(name);
-    return value ? value : "";
-}
-
-int numberIn(const char *name)
-{
-    return std::atoi(variable(name).c_str());
-}
-
 // Made after everything above it and gone before it.
-class ToldByEnvironment
-{
-public:
-    ToldByEnvironment()
-    {
-        const std::string folder = variable("CMPED_FAULT_FOLDER");
-        if (folder.empty())
-            return;
-        armFaults({folder, numberIn("CMPED_FAULT_CALL"), FaultKind(numberIn("CMPED_FAULT_KIND")),
-                   numberIn("CMPED_FAULT_ERROR"), variable("CMPED_FAULT_NAMELESS") != "0"});
-    }
-    ~ToldByEnvironment()
-    {
-        const std::string path = variable("CMPED_FAULT_LOG");
-        if (path.empty())
-            return;
-        const std::vector<std::string> names = disarmFaults();
-        if (FILE *log = std::fopen(path.c_str(), "w")) {
-            for (const std::string &name : names)
-                std::fprintf(log, "%s\n", name.c_str());
-            std::fclose(log);
-        }
-    }
-    ToldByEnvironment(const ToldByEnvironment &) = delete;
-    ToldByEnvironment &operator=(const ToldByEnvironment &) = delete;
-};
-
 const ToldByEnvironment toldByEnvironment;
 
 } // namespace

@@ -1,5 +1,8 @@
 // Faults of the system at chosen calls on the files of one folder.
 //
+// While there is a fault to come, nobody waits for the disk: fsync only answers, since no process
+// can see what it does.
+//
 // A library that stands before the C library. While faults are armed it counts the calls on the
 // folder, on what is below it and on what was opened there, and lets one of them go wrong. A test
 // links it and arms faults itself. In a program of its own it is preloaded (LD_PRELOAD) and told by
