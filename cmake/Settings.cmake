@@ -15,17 +15,13 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 option(CMPED_WERROR "Treat warnings of our own code as errors" ON)
 option(CMPED_SANITIZERS "Build with AddressSanitizer and UBSan" OFF)
 
-# ccache takes precompiled headers only if it is told to trust their macros and times.
+# ccache takes precompiled headers only if it is told to trust their macros and times. It learns
+# what a source includes from the compiler, so that nothing is preprocessed twice for it.
 find_program(CMPED_CCACHE ccache)
 if(CMPED_CCACHE)
     set(CMAKE_CXX_COMPILER_LAUNCHER
-        ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CMPED_CCACHE})
-endif()
-
-# Qt's headers are compiled once for all tests by clang only: gcc maps its precompiled headers to
-# a fixed place in memory, and crashes where that place isn't free.
-if(NOT CMAKE_CXX_COMPILER_ID STREQUAL Clang)
-    set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
+        ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_DEPEND=1
+        ${CMPED_CCACHE})
 endif()
 
 # Flags for our own code; what moc, uic and rcc make is compiled with them too and passes.
