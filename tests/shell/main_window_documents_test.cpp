@@ -1,9 +1,9 @@
-// Open, save, and what is asked about unsaved changes.
+// Opening, and what is asked about unsaved changes.
 #include "tests/shell/window_fixture.h"
-#include "tests/support/disk_faults.h"
 #include "tests/support/file_contents.h"
 
 #include <QCloseEvent>
+#include <QDir>
 #include <QPushButton>
 
 namespace {
@@ -38,14 +38,6 @@ private slots:
     void yesWhoseSavingFailsStopsLoadingAndClosing();
     void openTakesTheMapsFolderAndRemembersTheChosenOne();
     void openCancelledChangesNothing();
-    void saveOfUntitledAsksForAName();
-    void saveAsCancelledChangesNothing();
-    void saveAsStartsWithTheBaseName();
-    void saveWritesTheCurrentFile();
-    void saveThatFailsTellsAndStaysModified();
-    void saveAtALimitKeepsTheOldFile();
-    void saveOnAFullDiskKeepsTheOldFile();
-    void chosenFolderIsKeptAsUtf8();
     void closeAsksAboutChanges_data();
     void closeAsksAboutChanges();
     void closeOfUnchangedAsksNothing();
@@ -54,7 +46,6 @@ private slots:
     void defaultAnswerIsYes();
 
 private:
-    void saveFails(MainWindow &window, const QString &path, const QString &reason);
     QString home(const QString &name) { return fixture->game.filePath("Maps/" + name); }
 
     std::unique_ptr<WindowFixture> fixture;
@@ -266,136 +257,6 @@ void MainWindowDocumentsTest::openCancelledChangesNothing()
     action(window, "actionOpen")->trigger();
     QCOMPARE(window.windowTitle(), "Untitled.e3c - " + title);
     QCOMPARE(QByteArray(ini->GetStringVal("Campaign Editor", "Path", "x")), QByteArray());
-}
-
-void MainWindowDocumentsTest::saveOfUntitledAsksForAName()
-{
-    MainWindow window(nullptr);
-    const QString path = home("made.e3c");
-    QFile::remove(path);
-    EditorData::info.modified = true;
-    NextDialog dialog(chooseFile("Save As", home("").chopped(1), "Untitled", home("made")));
-    action(window, "actionSave")->trigger();
-    QVERIFY(QFile::exists(path));
-    QVERIFY(!EditorData::info.modified);
-    QCOMPARE(window.windowTitle(), "made.e3c - " + title);
-    QCOMPARE(QString(ini->GetStringVal("Campaign Editor", "Path", "")), QFileInfo(path).path());
-    QVERIFY(!QApplication::overrideCursor());
-    MainWindow again(nullptr);
-    again.loadFile(path);
-    QCOMPARE(again.windowTitle(), "made.e3c - " + title);
-}
-
-void MainWindowDocumentsTest::saveAsCancelledChangesNothing()
-{
-    MainWindow window(nullptr);
-    EditorData::info.modified = true;
-    NextDialog dialog(chooseFile("Save As", home("").chopped(1), "Untitled", ""));
-    action(window, "actionSave")->trigger();
-    QVERIFY(EditorData::info.modified);
-    QCOMPARE(window.windowTitle(), "Untitled.e3c - " + title);
-    QCOMPARE(QByteArray(ini->GetStringVal("Campaign Editor", "Path", "x")), QByteArray());
-    QVERIFY(QSettings("cmped_info", "").value("recentFileList").toStringList().isEmpty());
-}
-
-void MainWindowDocumentsTest::saveAsStartsWithTheBaseName()
-{
-    MainWindow window(nullptr);
-    window.loadFile(second);
-    const QString copy = home("copy.e3c");
-    QFile::remove(copy);
-    NextDialog dialog(chooseFile("Save As", home("").chopped(1), "second", copy));
-    action(window, "actionSave_As")->trigger();
-    QVERIFY(QFile::exists(copy));
-    QCOMPARE(window.windowTitle(), "copy.e3c - " + title);
-}
-
-void MainWindowDocumentsTest::saveWritesTheCurrentFile()
-{
-    MainWindow window(nullptr);
-    window.loadFile(second);
-    QFile::remove(second);
-    EditorData::info.modified = true;
-    action(window, "actionSave")->trigger();
-    QVERIFY(QFile::exists(second));
-    QVERIFY(!EditorData::info.modified);
-    window.loadFile(second);
-    QVERIFY(regionsOf(window)[1]->hasScenario);
-}
-
-void MainWindowDocumentsTest::saveThatFailsTellsAndStaysModified()
-{
-    MainWindow window(nullptr);
-    window.loadFile(first);
-    EditorData::info.modified = true;
-    const QString path = home("no/such/folder.e3c");
-    NextDialog box(
-        boxAnswer({"Error", "Cannot write file " + path + ":\nNo such file or directory.",
-                   QMessageBox::Warning}));
-    window.saveFile(path);
-    QVERIFY(box.came());
-    QVERIFY(EditorData::info.modified);
-    QCOMPARE(window.windowFilePath(), first);
-    QVERIFY(!QApplication::overrideCursor());
-}
-
-// A save that tells its reason and leaves the file, the flag and the title's mark as they are.
-void MainWindowDocumentsTest::saveFails(MainWindow &window, const QString &path,
-                                        const QString &reason)
-{
-    const QByteArray before = contents(path);
-    QVERIFY(!before.isEmpty());
-    EditorData::info.modified = true;
-    window.updateWindowTitle();
-    NextDialog box(boxAnswer(
-        {"Error", "Cannot write file " + path + ":\n" + reason + ".", QMessageBox::Warning}));
-    action(window, "actionSave")->trigger();
-    QVERIFY(box.came());
-    QCOMPARE(contents(path), before);
-    QVERIFY(EditorData::info.modified);
-    QCOMPARE(window.windowTitle(), QFileInfo(path).fileName() + "* - " + title);
-    QCOMPARE(QDir(QFileInfo(path).path()).entryList(QDir::Files).filter(".e3c."), QStringList());
-    QVERIFY(!QApplication::overrideCursor());
-}
-
-void MainWindowDocumentsTest::saveAtALimitKeepsTheOldFile()
-{
-    MainWindow window(nullptr);
-    window.loadFile(second);
-    const FileSizeLimit limit(20);
-    saveFails(window, second, "File too large");
-}
-
-void MainWindowDocumentsTest::saveOnAFullDiskKeepsTheOldFile()
-{
-    const SmallDisk disk(16);
-    if (!disk.isMounted())
-        QSKIP("no right to mount a disk here");
-    const QString path = disk.path("second.e3c");
-    QVERIFY(QFile::copy(second, path));
-    MainWindow window(nullptr);
-    window.loadFile(path);
-    QFile filler(disk.path("filler"));
-    QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
-    while (filler.write(QByteArray(4096, 'x')) == 4096) {
-    }
-    saveFails(window, path, "No space left on device");
-}
-
-void MainWindowDocumentsTest::chosenFolderIsKeptAsUtf8()
-{
-    const QTemporaryDir work;
-    const QString folder = work.filePath(QString::fromUtf8("Карты é"));
-    QVERIFY(QDir().mkdir(folder));
-    const QString path = folder + "/a.e3c";
-    MainWindow window(nullptr);
-    {
-        NextDialog dialog(chooseFile("Save As", home("").chopped(1), "Untitled", path));
-        action(window, "actionSave")->trigger();
-    }
-    QCOMPARE(QByteArray(ini->GetStringVal("Campaign Editor", "Path", "")), folder.toUtf8());
-    NextDialog dialog(chooseFile("Open Map File", folder, "", ""));
-    action(window, "actionOpen")->trigger();
 }
 
 void MainWindowDocumentsTest::closeAsksAboutChanges_data()

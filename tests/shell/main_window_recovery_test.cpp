@@ -1,38 +1,11 @@
-// The copy that is kept of a document with changes: when it is made, when it goes, and how one that
-// was left is offered.
+// The copy that is kept of a document with changes: when it is made, and when it goes.
 #include "scenario/scenario_general.h"
 #include "scenario/scenario_info.h"
-#include "tests/shell/exchange_window.h"
-#include "tests/support/child_process.h"
+#include "tests/shell/recovery_window.h"
 
-#include <QCloseEvent>
-#include <QDialogButtonBox>
 #include <QListWidget>
-#include <QPushButton>
-#include <QTextEdit>
-#include <QTranslator>
 
-#include <functional>
-
-namespace {
-
-const QMessageBox::StandardButtons yesOrNo = QMessageBox::Yes | QMessageBox::No;
-
-void pressOk(QWidget *dialog)
-{
-    clickOn(static_cast<QWidget *>(
-        dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Ok)));
-}
-
-ExpectedBox saveQuestion(const QString &name, QMessageBox::StandardButton press)
-{
-    return {appTitle, "Save changes to " + name + "?", QMessageBox::NoIcon,
-            yesOrNo | QMessageBox::Cancel, press};
-}
-
-} // namespace
-
-class MainWindowRecoveryTest : public QObject, private ExchangeWindow
+class MainWindowRecoveryTest : public QObject, private RecoveryWindow
 {
     Q_OBJECT
 
@@ -64,51 +37,23 @@ private slots:
     void newLeavesTheCopyAndBeginsAnother();
     void saveThatFailsLeavesTheCopy();
     void placeThatCantBeWrittenIsNoTrouble();
-    void leftCopyIsOpenedAsItWas();
-    void leftCopyOfAnUntitledCampaignIsUntitled();
-    void openedCopyIsRenewedAndRemovedBySaving();
-    void openedCopyNeverOverwritesANewerFileUnasked();
-    void refusedCopyStaysAndIsNotOfferedAgain_data();
-    void refusedCopyStaysAndIsNotOfferedAgain();
-    void damagedCopyIsToldAndNotOfferedAgain();
-    void nothingIsAskedWithoutACopy();
-    void nothingIsAskedOnceThereIsADocument();
-    void questionIsAskedInRussian();
 
 private:
-    QStringList copies() const;
-    QByteArray copy() const { return contents(recovery() + '/' + copies().value(0)); }
-    QString recovery() const { return RecoveryCopies::usualFolder(); }
     // The window's document as a file, without saving it.
     QByteArray document();
-    // Leaves a copy of the changed campaign of that file behind, or of one without a file.
-    void leaveCopy(const QString &file);
-    // The question about the copy that was left.
-    ExpectedBox offer(const QString &name, QMessageBox::StandardButton press) const;
-    void changeName(const QString &name);
-    bool closes();
-
-    std::unique_ptr<QTemporaryDir> m_data;
 };
 
 Q_DECLARE_METATYPE(MainWindowRecoveryTest::Change)
 
 void MainWindowRecoveryTest::init()
 {
-    m_data = std::make_unique<QTemporaryDir>();
-    qputenv("XDG_DATA_HOME", QFile::encodeName(m_data->path()));
-    reset();
+    resetWithData();
 }
 
 void MainWindowRecoveryTest::cleanup()
 {
     QVERIFY(!QApplication::overrideCursor());
     window.reset();
-}
-
-QStringList MainWindowRecoveryTest::copies() const
-{
-    return QDir(recovery()).entryList({"*.e3c"}, QDir::Files | QDir::Hidden, QDir::Name);
 }
 
 QByteArray MainWindowRecoveryTest::document()
@@ -124,42 +69,6 @@ QByteArray MainWindowRecoveryTest::document()
     const bool saved = other.saveFile(elsewhere);
     EditorData::info.modified = modified;
     return saved ? contents(elsewhere) : QByteArray("not saved");
-}
-
-void MainWindowRecoveryTest::leaveCopy(const QString &file)
-{
-    if (!file.isEmpty())
-        window->loadFile(file);
-    changeName("Ashen Road");
-    window = nullptr;
-    EditorData::info = {};
-    window = std::make_unique<MainWindow>(nullptr);
-}
-
-ExpectedBox MainWindowRecoveryTest::offer(const QString &name,
-                                          QMessageBox::StandardButton press) const
-{
-    const QDateTime time = QFileInfo(recovery() + '/' + copies().value(0)).lastModified();
-    return {appTitle,
-            "Changes to " + name + " were not saved. Open the copy kept on " +
-                time.toString("yyyy-MM-dd HH:mm") + "?",
-            QMessageBox::NoIcon, yesOrNo, press};
-}
-
-void MainWindowRecoveryTest::changeName(const QString &name)
-{
-    const NextDialog dialog([&](QWidget *widget) {
-        widget->findChild<QTextEdit *>("nameEdit")->setPlainText(name);
-        pressOk(widget);
-    });
-    trigger("campaignProperties");
-}
-
-bool MainWindowRecoveryTest::closes()
-{
-    QCloseEvent event;
-    QApplication::sendEvent(window.get(), &event);
-    return event.isAccepted();
 }
 
 void MainWindowRecoveryTest::editScenario()
@@ -425,164 +334,6 @@ void MainWindowRecoveryTest::placeThatCantBeWrittenIsNoTrouble()
     QVERIFY(EditorData::info.modified);
     trigger("actionSave");
     QVERIFY(!EditorData::info.modified);
-    window->offerRecoveryCopy();
-}
-
-void MainWindowRecoveryTest::leftCopyIsOpenedAsItWas()
-{
-    leaveCopy(path("home.e3c"));
-    const QByteArray kept = copy();
-    {
-        const NextDialog question(boxAnswer(offer("home", QMessageBox::Yes)));
-        window->offerRecoveryCopy();
-    }
-    QCOMPARE(window->windowTitle(), "home.e3c* - " + appTitle);
-    QCOMPARE(window->windowFilePath(), path("home.e3c"));
-    QVERIFY(EditorData::info.modified);
-    QVERIFY(regionsOf(*window)[2]->hasScenario);
-    QCOMPARE(regionNameIn(*window), QString("Alder Bay"));
-    QCOMPARE(copy(), kept); // it stays until the document is saved
-    trigger("actionSave");  // unasked: nobody has touched the file
-    QCOMPARE(contents(path("home.e3c")), kept);
-    QVERIFY(!EditorData::info.modified);
-}
-
-void MainWindowRecoveryTest::leftCopyOfAnUntitledCampaignIsUntitled()
-{
-    leaveCopy({});
-    {
-        const NextDialog question(boxAnswer(offer("Untitled", QMessageBox::Yes)));
-        window->offerRecoveryCopy();
-    }
-    QCOMPARE(window->windowTitle(), "Untitled.e3c - " + appTitle);
-    QVERIFY(EditorData::info.modified);
-    const NextDialog question(boxAnswer(saveQuestion("Untitled", QMessageBox::Yes)));
-    const NextDialog saving(
-        chooseFile("Save As", fixture.game.filePath("Maps"), "Untitled", path("saved.e3c")));
-    QVERIFY(closes());
-    QVERIFY(contents(path("saved.e3c")).size() > 0);
-    QCOMPARE(copies(), QStringList());
-}
-
-void MainWindowRecoveryTest::openedCopyIsRenewedAndRemovedBySaving()
-{
-    leaveCopy(path("home.e3c"));
-    {
-        const NextDialog question(boxAnswer(offer("home", QMessageBox::Yes)));
-        window->offerRecoveryCopy();
-    }
-    const QByteArray kept = copy();
-    editScenario();
-    QCOMPARE(copies().size(), 1);
-    QVERIFY(copy() != kept);
-    // Another end, and it is offered again.
-    window = nullptr;
-    EditorData::info = {};
-    window = std::make_unique<MainWindow>(nullptr);
-    {
-        const NextDialog question(boxAnswer(offer("home", QMessageBox::Yes)));
-        window->offerRecoveryCopy();
-    }
-    trigger("actionSave");
-    QCOMPARE(QDir(recovery()).entryList(QDir::Files | QDir::Hidden), QStringList());
-}
-
-void MainWindowRecoveryTest::openedCopyNeverOverwritesANewerFileUnasked()
-{
-    leaveCopy(path("home.e3c"));
-    CampaignData newer = campaignWithMaps();
-    newer.name = "Newer";
-    save(newer);
-    const QByteArray newerBytes = contents(path("home.e3c"));
-    {
-        const NextDialog question(boxAnswer(offer("home", QMessageBox::Yes)));
-        window->offerRecoveryCopy();
-    }
-    const NextDialog question(boxAnswer(
-        {appTitle,
-         "home.e3c has changed on the disk since it was opened or saved here. Overwrite it?",
-         QMessageBox::NoIcon, yesOrNo, QMessageBox::No}));
-    trigger("actionSave");
-    QCOMPARE(contents(path("home.e3c")), newerBytes);
-    QVERIFY(EditorData::info.modified);
-    QCOMPARE(copies().size(), 1);
-}
-
-void MainWindowRecoveryTest::refusedCopyStaysAndIsNotOfferedAgain_data()
-{
-    QTest::addColumn<bool>("byButton");
-    QTest::newRow("No") << true;
-    QTest::newRow("closed") << false;
-}
-
-void MainWindowRecoveryTest::refusedCopyStaysAndIsNotOfferedAgain()
-{
-    QFETCH(bool, byButton);
-    leaveCopy(path("home.e3c"));
-    const QByteArray kept = copy();
-    {
-        const NextDialog question([&](QWidget *box) {
-            if (byButton)
-                boxAnswer(offer("home", QMessageBox::No))(box);
-            else
-                box->close();
-        });
-        window->offerRecoveryCopy();
-    }
-    QCOMPARE(window->windowTitle(), "Untitled.e3c - " + appTitle);
-    QVERIFY(!EditorData::info.modified);
-    QCOMPARE(copies().size(), 1);
-    QCOMPARE(copy(), kept);
-    MainWindow next(nullptr);
-    next.offerRecoveryCopy(); // a question nobody answers would stay for ever
-    next.loadFile(recovery() + '/' + copies()[0]);
-    QVERIFY(next.windowTitle().endsWith(" home.offered.e3c - " + appTitle));
-}
-
-void MainWindowRecoveryTest::damagedCopyIsToldAndNotOfferedAgain()
-{
-    leaveCopy(path("home.e3c"));
-    samples::writeFile(recovery() + '/' + copies()[0], tiny::gzip(""));
-    {
-        const NextDialog question(boxAnswer(offer("home", QMessageBox::Yes)));
-        const NextDialog told(
-            boxAnswer({"Error", "Incorrect or damaged file.", QMessageBox::Critical}));
-        window->offerRecoveryCopy();
-    }
-    QCOMPARE(window->windowTitle(), "Untitled.e3c - " + appTitle);
-    QVERIFY(!EditorData::info.modified);
-    QCOMPARE(copies().size(), 1);
-    MainWindow(nullptr).offerRecoveryCopy();
-}
-
-void MainWindowRecoveryTest::nothingIsAskedWithoutACopy()
-{
-    window->offerRecoveryCopy();
-    QVERIFY(!QFileInfo::exists(recovery()));
-}
-
-void MainWindowRecoveryTest::nothingIsAskedOnceThereIsADocument()
-{
-    leaveCopy(path("home.e3c"));
-    load();
-    window->offerRecoveryCopy();
-    MainWindow other(nullptr);
-    EditorData::info.modified = true;
-    other.offerRecoveryCopy();
-    QCOMPARE(copies().filter("offered"), QStringList());
-}
-
-void MainWindowRecoveryTest::questionIsAskedInRussian()
-{
-    leaveCopy(path("home.e3c"));
-    QTranslator russian;
-    QVERIFY(russian.load(builtProgram("Ravn_Data/cmp_ru.qm")));
-    QCoreApplication::installTranslator(&russian);
-    ExpectedBox expected = offer("home", QMessageBox::No);
-    const QString time = expected.text.right(17).chopped(1);
-    expected.text =
-        QString::fromUtf8("Изменения в home не были сохранены. Открыть копию от ") + time + "?";
-    const NextDialog question(boxAnswer(expected));
     window->offerRecoveryCopy();
 }
 

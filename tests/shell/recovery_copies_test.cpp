@@ -1,42 +1,18 @@
-// The folder of recovery copies: what they are called, who has them, which are offered, which go.
-#include "shell/recovery_copies.h"
-
+// Recovery copies: what is in them, what they are called, and what becomes of those that fail.
 #include "gamedata/escaped_utf8.h"
+#include "tests/shell/recovery_folder.h"
 #include "tests/support/disk_faults.h"
-#include "tests/support/file_contents.h"
 
 #include <QDateTime>
-#include <QDir>
 #include <QRegularExpression>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTextCodec>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-
 namespace {
-
-const RecoveryOrigin untitled;
 
 mode_t modeOf(const QString &path)
 {
     struct stat status = {};
     return stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
-}
-
-bool write(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
-
-// Makes a file as old as that.
-bool age(const QString &path, int minutes)
-{
-    const timespec moment{time(nullptr) - 60 * minutes, 0};
-    const timespec times[] = {moment, moment};
-    return utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0) == 0;
 }
 
 // The folder's name is in front of the parts that matter.
@@ -48,7 +24,7 @@ QString withoutTime(const QString &name)
 
 } // namespace
 
-class RecoveryCopiesTest : public QObject
+class RecoveryCopiesTest : public QObject, private RecoveryFolder
 {
     Q_OBJECT
 
@@ -69,65 +45,16 @@ private slots:
     void originKeepsEveryByteOfItsName();
     void damagedNoteIsNoOrigin_data();
     void damagedNoteIsNoOrigin();
-    void newestIsOfferedFirstAndNoneTwice();
-    void nothingIsOfferedFromNowhere();
-    void emptyAndForeignFilesAreNotOffered();
-    void copyOfARunningEditorIsNotOffered();
-    void copyIsOfferedToOneEditorAtATime();
-    void editorsOfOneMomentHaveTwoCopies();
-    void takenOverCopyIsTheDocumentsOwn();
-    void tenNewestStay();
-    void copyOfARunningEditorIsNeverDrivenOut();
-    void authorsOwnFilesStay();
-    void remainsOfKilledEditorsGo();
     void failedRenewalKeepsTheOldCopy();
     void failedFirstCopyLeavesNothing();
     void placeThatCantBeWrittenIsNoTrouble();
     void folderAndFilesArePrivate();
-
-private:
-    QString path(const QString &name) const { return folder + '/' + name; }
-    QStringList files() const
-    {
-        return QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-    }
-    // Leaves a copy with this content that is as old as that.
-    void leaveCopy(const QString &document, int minutes, const RecoveryOrigin &origin = {});
-    static QByteArray offeredBy(const RecoveryCopies &copies);
-
-    std::unique_ptr<QTemporaryDir> home;
-    QString folder;
 };
 
 void RecoveryCopiesTest::init()
 {
     cleanup();
-    home = std::make_unique<QTemporaryDir>();
-    folder = home->filePath("data/recovery");
-}
-
-void RecoveryCopiesTest::leaveCopy(const QString &document, int minutes,
-                                   const RecoveryOrigin &origin)
-{
-    RecoveryCopies copies(folder);
-    const QStringList before = files();
-    copies.keep(document, origin, {document.toUtf8()});
-    const QStringList after = files();
-    for (const QString &name : after) {
-        if (!before.contains(name))
-            QVERIFY(age(path(name), minutes));
-    }
-}
-
-// The content of the copy that is offered; nothing if none is. It counts as offered then.
-QByteArray RecoveryCopiesTest::offeredBy(const RecoveryCopies &copies)
-{
-    auto copy = copies.newestToOffer();
-    if (!copy)
-        return {};
-    const QByteArray bytes = contents(copy->file.path);
-    copies.markOffered(*copy);
-    return bytes;
+    reset();
 }
 
 void RecoveryCopiesTest::usualFolderIsInTheUsersData()
@@ -293,148 +220,6 @@ void RecoveryCopiesTest::damagedNoteIsNoOrigin()
     QCOMPARE(copy->origin.path, QString());
     QVERIFY(!copy->origin.stamp.exists);
     QCOMPARE(copy->documentName(), QString("harbour"));
-}
-
-void RecoveryCopiesTest::newestIsOfferedFirstAndNoneTwice()
-{
-    leaveCopy("middle", 20);
-    leaveCopy("newest", 10);
-    leaveCopy("oldest", 30);
-    for (const QByteArray name : {"newest", "middle", "oldest"})
-        QCOMPARE(offeredBy(RecoveryCopies(folder)), name);
-    QCOMPARE(offeredBy(RecoveryCopies(folder)), QByteArray());
-    QCOMPARE(files().size(), 3);
-    leaveCopy("one more", 40);
-    QCOMPARE(offeredBy(RecoveryCopies(folder)), QByteArray("one more"));
-}
-
-void RecoveryCopiesTest::nothingIsOfferedFromNowhere()
-{
-    QVERIFY(!RecoveryCopies(folder).newestToOffer());
-    QVERIFY(!QFileInfo::exists(folder));
-    QVERIFY(!RecoveryCopies(QString()).newestToOffer());
-}
-
-void RecoveryCopiesTest::emptyAndForeignFilesAreNotOffered()
-{
-    QVERIFY(QDir().mkpath(path("2026-03-14 15-09-26 a folder.e3c")));
-    QVERIFY(write(path("2026-03-14 15-09-26 empty.e3c"), ""));
-    QVERIFY(write(path("2026-03-14 15-09-26 other.e3m"), "x"));
-    QVERIFY(write(path("mine.e3c"), "x"));
-    QVERIFY(write(path("2026-03-14 mine.e3c"), "x"));
-    QVERIFY(QFile::link(path("mine.e3c"), path("2026-03-14 15-09-26 a link.e3c")));
-    QVERIFY(!RecoveryCopies(folder).newestToOffer());
-}
-
-void RecoveryCopiesTest::copyOfARunningEditorIsNotOffered()
-{
-    leaveCopy("left", 10);
-    auto running = std::make_unique<RecoveryCopies>(folder);
-    running->keep("running", untitled, {"running"});
-    running->keep("running", untitled, {"running on"});
-    QCOMPARE(offeredBy(RecoveryCopies(folder)), QByteArray("left"));
-    QCOMPARE(offeredBy(RecoveryCopies(folder)), QByteArray());
-    running.reset();
-    QCOMPARE(offeredBy(RecoveryCopies(folder)), QByteArray("running on"));
-}
-
-void RecoveryCopiesTest::copyIsOfferedToOneEditorAtATime()
-{
-    leaveCopy("left", 10);
-    auto asked = RecoveryCopies(folder).newestToOffer();
-    QVERIFY(asked);
-    QVERIFY(!RecoveryCopies(folder).newestToOffer());
-    asked.reset(); // it ended before it had an answer
-    QVERIFY(RecoveryCopies(folder).newestToOffer());
-}
-
-void RecoveryCopiesTest::editorsOfOneMomentHaveTwoCopies()
-{
-    std::vector<std::unique_ptr<RecoveryCopies>> editors;
-    for (int i = 0; i < 5; ++i) {
-        editors.push_back(std::make_unique<RecoveryCopies>(folder));
-        editors.back()->keep("harbour", untitled, {QByteArray::number(i)});
-    }
-    QCOMPARE(files().size(), 5);
-    QByteArrayList found;
-    for (const QString &name : files())
-        found << contents(path(name));
-    std::sort(found.begin(), found.end());
-    QCOMPARE(found, QByteArrayList({"0", "1", "2", "3", "4"}));
-}
-
-void RecoveryCopiesTest::takenOverCopyIsTheDocumentsOwn()
-{
-    leaveCopy("harbour", 10, {"/a.e3c", {}});
-    {
-        RecoveryCopies copies(folder);
-        auto copy = copies.newestToOffer();
-        QVERIFY(copy);
-        copies.markOffered(*copy);
-        copies.takeOver(std::move(*copy));
-        QVERIFY(!RecoveryCopies(folder).newestToOffer()); // its editor runs
-        copies.keep("harbour", {"/a.e3c", {}}, {"on"});
-        QCOMPARE(files().size(), 2);
-    }
-    RecoveryCopies copies(folder);
-    auto again = copies.newestToOffer();
-    QVERIFY(again);
-    QCOMPARE(contents(again->file.path), QByteArray("on"));
-    QCOMPARE(again->origin.path, QString("/a.e3c"));
-    copies.takeOver(std::move(*again));
-    copies.remove();
-    QCOMPARE(files(), QStringList());
-}
-
-void RecoveryCopiesTest::tenNewestStay()
-{
-    for (int i = 0; i < 12; ++i)
-        leaveCopy("copy" + QString::number(i), i % 2 ? 100 + i : 200 + i, {"/a.e3c", {}});
-    offeredBy(RecoveryCopies(folder));
-    leaveCopy("last", 0);
-    QStringList left;
-    for (const QString &name : files().filter(".e3c"))
-        left << contents(path(name));
-    left.sort();
-    QCOMPARE(left, QStringList({"copy0", "copy1", "copy11", "copy2", "copy3", "copy4", "copy5",
-                                "copy7", "copy9", "last"}));
-    QCOMPARE(files().filter(".origin").size(), 9);
-}
-
-void RecoveryCopiesTest::copyOfARunningEditorIsNeverDrivenOut()
-{
-    RecoveryCopies running(folder);
-    running.keep("running", untitled, {"running"});
-    const QString name = files().value(0);
-    QVERIFY(age(path(name), 1000));
-    for (int i = 0; i < 12; ++i)
-        leaveCopy("copy", i);
-    QCOMPARE(contents(path(name)), QByteArray("running"));
-    QCOMPARE(files().size(), 11);
-}
-
-void RecoveryCopiesTest::authorsOwnFilesStay()
-{
-    QVERIFY(QDir().mkpath(folder));
-    const QStringList own{"2026-03-14 15-09-26 harbour.e3m", "a.origin.txt", "harbour.e3c"};
-    for (const QString &name : own)
-        QVERIFY(write(path(name), "x") && age(path(name), 100000));
-    for (int i = 0; i < 12; ++i)
-        leaveCopy("copy", i);
-    for (const QString &name : own)
-        QVERIFY(QFile::exists(path(name)));
-    QCOMPARE(files().size(), 13);
-}
-
-void RecoveryCopiesTest::remainsOfKilledEditorsGo()
-{
-    QVERIFY(QDir().mkpath(folder));
-    QVERIFY(write(path("2026-03-14 15-09-26 gone.origin"), "{}"));
-    QVERIFY(write(path(".unfinished-abcdef"), "x") && age(path(".unfinished-abcdef"), 25 * 60));
-    QVERIFY(write(path(".unfinished-ghijkl"), "x") && age(path(".unfinished-ghijkl"), 23 * 60));
-    leaveCopy("harbour", 0);
-    QCOMPARE(files().size(), 2);
-    QVERIFY(files().contains(".unfinished-ghijkl"));
 }
 
 void RecoveryCopiesTest::failedRenewalKeepsTheOldCopy()

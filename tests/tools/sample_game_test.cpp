@@ -1,6 +1,7 @@
 // The sample game: two runs of its maker, and what it puts into archives and table file.
 #include "tests/support/child_process.h"
 #include "tests/tools/made_game.h"
+#include "tests/tools/picture_kinds.h"
 
 #include <QDirIterator>
 #include <QRect>
@@ -17,30 +18,6 @@ QStringList filesBelow(const QString &folder)
         files += QDir(folder).relativeFilePath(it.next());
     files.sort();
     return files;
-}
-
-bool isPicture24(const QByteArray &record)
-{
-    const qint64 pixels = qint64(numberAt(record, 4)) * numberAt(record, 8);
-    return pixels > 0 && record.size() == 12 + 3 * pixels;
-}
-
-bool isPicture32(const QByteArray &record)
-{
-    const qint64 pixels = qint64(numberAt(record, 24)) * numberAt(record, 28);
-    return record.startsWith("P32F") && pixels > 0 && record.size() == 32 + 4 * pixels;
-}
-
-bool isPalettePicture(const QByteArray &record)
-{
-    const qint64 pixels = qint64(numberAt(record, 4)) * numberAt(record, 8);
-    return pixels > 0 && record.size() == 12 + pixels + 768;
-}
-
-QSize sizeOf(const QByteArray &record)
-{
-    const int at = isPicture32(record) ? 24 : 4;
-    return {numberAt(record, at), numberAt(record, at + 4)};
 }
 
 } // namespace
