@@ -15,13 +15,26 @@ namespace {
 // What C libraries call plain ASCII: the locale of a system that was never told one.
 constexpr std::array<std::string_view, 4> asciiNames{"ANSI_X3.4-1968", "US-ASCII", "ASCII", "646"};
 
-// File names and numbers in texts go through the codec as well, so it must keep ASCII as it is.
-bool keepsAscii(const QTextCodec &codec)
+// ASCII without the zero byte, which ends a text, and without three control characters that change
+// places in old code pages, Shift_JIS among them: no text has those, and they come back the same.
+QByteArray asciiOfTexts()
 {
     QByteArray letters;
-    for (char letter = ' '; letter <= '~'; ++letter)
-        letters += letter;
-    return codec.toUnicode(letters) == QString::fromLatin1(letters);
+    for (char letter = 1; letter < '\x7f'; ++letter) {
+        if (letter != '\x1a' && letter != '\x1c')
+            letters += letter;
+    }
+    return letters;
+}
+
+// File names and numbers in texts go through the codec as well, so it must keep ASCII as it is,
+// both ways, behind an escape, too: there some codecs take letters for something else, and what
+// they have read they don't write the same again.
+bool keepsAscii(const QTextCodec &codec)
+{
+    const QByteArray letters = "\x1b$B letters \x1b(B " + asciiOfTexts();
+    const QString text = QString::fromLatin1(letters);
+    return codec.toUnicode(letters) == text && codec.fromUnicode(text) == letters;
 }
 
 QTextCodec *codecOfSystem()

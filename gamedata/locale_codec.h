@@ -9,7 +9,8 @@
 #include <QString>
 
 // Sets the codec of this name. An empty name takes what the system's locale says (LC_ALL,
-// LC_CTYPE, LANG), where plain ASCII counts as UTF-8 and an encoding unknown to Qt does too.
-// False if no codec has the name given, or one that changes ASCII, so that no file could be named
-// by it; nothing is changed then.
+// LC_CTYPE, LANG), where plain ASCII counts as UTF-8 and an encoding that can't be set does too.
+// False if no codec has the name given, or one that doesn't read and write ASCII as it stands, so
+// that no file could be named by it; nothing is changed then. Two bytes a letter are such a codec,
+// and so is ISO-2022-JP, whose letters mean something else behind an escape. Shift_JIS isn't.
 bool setLocaleCodec(const QString &name);

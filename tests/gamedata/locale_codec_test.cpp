@@ -1,3 +1,4 @@
+// The encoding of texts outside the game's tables, and of the names of files.
 #include "gamedata/locale_codec.h"
 
 #include <QTextCodec>
@@ -9,6 +10,8 @@ class LocaleCodecTest : public QObject
 
 private slots:
     void namedCodecIsSet();
+    void codecThatKeepsAsciiIsSet_data();
+    void codecThatKeepsAsciiIsSet();
     void codecThatCannotNameFilesIsRefused_data();
     void codecThatCannotNameFilesIsRefused();
     void localeDecidesWithoutAName_data();
@@ -37,11 +40,39 @@ void LocaleCodecTest::namedCodecIsSet()
     QCOMPARE(currentCodec(), QByteArray("utf-8"));
 }
 
+void LocaleCodecTest::codecThatKeepsAsciiIsSet_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name :
+         {"UTF-8", "Windows-1250", "Windows-1251", "Windows-1252", "Windows-1254", "ISO-8859-1",
+          "ISO-8859-2", "ISO-8859-5", "ISO-8859-15", "KOI8-R", "KOI8-U", "GBK", "GB18030", "Big5",
+          "EUC-KR", "EUC-JP", "Shift_JIS", "IBM866"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void LocaleCodecTest::codecThatKeepsAsciiIsSet()
+{
+    QFETCH(QString, name);
+    QVERIFY(setLocaleCodec(name));
+    const QTextCodec *codec = QTextCodec::codecForLocale();
+    QByteArray text("\x1b\t\r\n");
+    for (char letter = ' '; letter <= '~'; ++letter)
+        text += letter;
+    QCOMPARE(codec->toUnicode(text), QString::fromLatin1(text));
+    QCOMPARE(codec->fromUnicode(QString::fromLatin1(text)), text);
+}
+
 void LocaleCodecTest::codecThatCannotNameFilesIsRefused_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("unknown") << "Moonrunes-8";
     QTest::newRow("two bytes a letter") << "UTF-16LE";
+    QTest::newRow("other letters behind an escape") << "ISO-2022-JP";
+    QTest::newRow("other letters behind an escape, Chinese") << "ISO-2022-CN";
+    QTest::newRow("other letters behind a shift") << "ISO-2022-KR";
+    QTest::newRow("other letters behind a tilde") << "HZ-GB-2312";
+    QTest::newRow("other letters behind a plus") << "UTF-7";
+    QTest::newRow("control characters choose letters") << "SCSU";
     QTest::newRow("other letters") << "IBM037";
     QTest::newRow("no ASCII name") << QStringLiteral("\u041f");
 }
