@@ -8,20 +8,35 @@
 
 namespace {
 
+using Meanings = std::array<QChar, 256>;
+
 // Each byte by itself, as text where the codec knows it and it comes back the same.
-QString decodeByBytes(const QTextCodec &codec, const QByteArray &bytes)
+Meanings meaningsIn(const QTextCodec &codec)
 {
-    std::array<QChar, 256> meaning;
+    Meanings meanings;
     for (int value = 0; value < 256; ++value) {
         const QByteArray byte(1, char(value));
         const QString text = codec.toUnicode(byte);
         const bool comesBack = text.size() == 1 && withoutEscapes(text, codec) == byte;
-        meaning[size_t(value)] = comesBack ? text.at(0) : escapedByte(char(value));
+        meanings[size_t(value)] = comesBack ? text.at(0) : escapedByte(char(value));
+    }
+    return meanings;
+}
+
+// The codec is asked for them once: five hundred conversions for each text would keep the author
+// of a campaign in another encoding waiting for minutes.
+QString decodeByBytes(const QTextCodec &codec, const QByteArray &bytes)
+{
+    thread_local const QTextCodec *known = nullptr;
+    thread_local Meanings meanings;
+    if (known != &codec) {
+        meanings = meaningsIn(codec);
+        known = &codec;
     }
     QString text;
     text.reserve(bytes.size());
     for (const char byte : bytes)
-        text += meaning[uchar(byte)];
+        text += meanings[uchar(byte)];
     return text;
 }
 

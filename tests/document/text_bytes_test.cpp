@@ -16,6 +16,32 @@ QString escapeOf(uchar byte)
     return QString(QChar(0xDC00 + byte));
 }
 
+// ASCII in which no other byte means anything. Counts what it is asked.
+class CountingCodec : public QTextCodec
+{
+public:
+    QByteArray name() const override { return "Counting"; }
+    int mibEnum() const override { return -7107; }
+
+    mutable int conversions = 0;
+
+protected:
+    QString convertToUnicode(const char *bytes, int size, ConverterState *) const override
+    {
+        ++conversions;
+        QString text;
+        for (int i = 0; i < size; ++i)
+            text += uchar(bytes[i]) < 0x80 ? QChar(uchar(bytes[i])) : QChar(0xFFFD);
+        return text;
+    }
+
+    QByteArray convertFromUnicode(const QChar *text, int size, ConverterState *) const override
+    {
+        ++conversions;
+        return QString(text, size).toLatin1();
+    }
+};
+
 } // namespace
 
 class TextBytesTest : public QObject
@@ -133,6 +159,30 @@ private slots:
         {
             QCOMPARE(bytesFromText(textFromBytes(bytes)), bytes);
         }
+    }
+
+    void damagedTextsAskTheCodecForEachByteOnlyOnce()
+    {
+        auto *codec = new CountingCodec; // Qt's
+        QTextCodec::setCodecForLocale(codec);
+        const QByteArray damaged("caf\xE9");
+        QCOMPARE(textFromBytes(damaged), "caf" + escapeOf(0xE9));
+        codec->conversions = 0;
+        constexpr int texts = 100;
+        for (int i = 0; i < texts; ++i)
+            QCOMPARE(textFromBytes(damaged), "caf" + escapeOf(0xE9));
+        QVERIFY2(codec->conversions <= 8 * texts, qPrintable(QString::number(codec->conversions)));
+    }
+
+    void everyCodecGivesBytesItsOwnMeanings()
+    {
+        QTextCodec *known = QTextCodec::codecForName("Shift_JIS");
+        if (!known)
+            QSKIP("Qt was built without this codec.");
+        QTextCodec::setCodecForLocale(new CountingCodec);
+        QCOMPARE(textFromBytes("\xB1\xFF"), escapeOf(0xB1) + escapeOf(0xFF));
+        QTextCodec::setCodecForLocale(known);
+        QCOMPARE(textFromBytes("\xB1\xFF"), QChar(0xFF71) + escapeOf(0xFF));
     }
 
     void aCampaignOfAnotherEncodingIsSavedAsItWas()
