@@ -23,8 +23,6 @@
 #include <QMap>
 #include <QString>
 
-#include <memory>
-
 class QFile;
 
 struct LodFile

@@ -1,6 +1,6 @@
 #include "shell/editor_resources.h"
 
-#include <QDir>
+#include <QtGlobal>
 
 void initEditorResources()
 {

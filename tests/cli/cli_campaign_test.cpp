@@ -6,7 +6,6 @@
 #include "tests/support/packing.h"
 
 #include <QCryptographicHash>
-#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>

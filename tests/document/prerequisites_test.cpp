@@ -6,7 +6,6 @@
 
 #include <QtTest>
 
-#include <functional>
 #include <limits>
 
 namespace {

@@ -7,7 +7,6 @@
 
 #include <QByteArray>
 #include <QFile>
-#include <QVector>
 
 namespace samples {
 

@@ -9,7 +9,6 @@
 #include <QTemporaryDir>
 
 #include <memory>
-#include <vector>
 
 namespace text_campaign {
 

@@ -1,7 +1,6 @@
 // What has to hold whatever the monkey does. Each answers what is wrong, or an empty text.
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 
 class CampaignData;

@@ -9,6 +9,7 @@
 #include "tests/monkey/window_state.h"
 
 #include <QApplication>
+#include <QByteArray>
 #include <QDialog>
 
 namespace {

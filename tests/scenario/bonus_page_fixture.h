@@ -6,9 +6,6 @@
 #include "scenario/bonus_value_dlg.h"
 #include "tests/scenario/bonus_tables.h"
 
-#include <QLabel>
-#include <QSpinBox>
-
 #include <functional>
 #include <memory>
 

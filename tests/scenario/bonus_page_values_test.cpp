@@ -1,6 +1,8 @@
 // The pages of the bonus dialog, each by itself: how a row's bonus shows, and the range of numbers.
 #include "tests/scenario/bonus_page_fixture.h"
 
+#include <QSpinBox>
+
 class BonusPageValuesTest : public QObject
 {
     Q_OBJECT

@@ -4,6 +4,8 @@
 
 #include "shell/right_click_filter.h"
 
+#include <QLabel>
+
 class BonusPagesTest : public QObject
 {
     Q_OBJECT

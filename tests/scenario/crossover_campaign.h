@@ -4,8 +4,6 @@
 
 #include "tests/scenario/hero_map.h"
 
-#include <QString>
-
 class CrossoverCampaign : public CampaignData
 {
 public:

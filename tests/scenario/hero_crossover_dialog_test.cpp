@@ -6,6 +6,7 @@
 
 #include <QHelpEvent>
 #include <QLabel>
+#include <QString>
 #include <QStyleOptionComboBox>
 #include <QToolTip>
 #include <QtTest>

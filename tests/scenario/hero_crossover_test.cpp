@@ -5,6 +5,7 @@
 #include "tests/scenario/crossover_campaign.h"
 #include "tests/scenario/shown_page.h"
 
+#include <QString>
 #include <QtTest>
 
 namespace {

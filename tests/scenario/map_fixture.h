@@ -6,8 +6,6 @@
 #include "tests/scenario/general_tab.h"
 #include "tests/support/file_dialogs.h"
 
-#include <QDir>
-
 class MapFixture : public ScenarioFixture
 {
 public:

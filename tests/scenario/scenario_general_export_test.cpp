@@ -6,6 +6,8 @@
 #include <cerrno>
 #include <cstring>
 
+#include <QDir>
+
 namespace {
 
 // Closes boxes that nobody expects; the test fails then.

@@ -6,6 +6,8 @@
 #include <cstring>
 #include <optional>
 
+#include <QDir>
+
 class ScenarioGeneralMapTest : public QObject
 {
     Q_OBJECT

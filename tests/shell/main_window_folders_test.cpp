@@ -3,6 +3,8 @@
 #include "tests/shell/window_fixture.h"
 #include "tests/support/disk_faults.h"
 
+#include <QDir>
+
 class MainWindowFoldersTest : public QObject
 {
     Q_OBJECT

@@ -3,7 +3,6 @@
 
 #include "tests/support/message_boxes.h"
 
-#include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QStringList>

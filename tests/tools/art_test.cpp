@@ -1,9 +1,9 @@
+// The painted pictures of the sample game: their regions, masks, palettes and sizes.
 #include "tools/sample_game/art/art.h"
 #include "tools/sample_game/art/icon_file.h"
 #include "tools/sample_game/art/looks.h"
 #include "tools/sample_game/art/splash.h"
 
-#include <QBuffer>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QTest>

@@ -3,12 +3,9 @@
 
 #include "tools/manual/manual_scenes.h"
 
-#include <QApplication>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
-
-#include <memory>
 
 // Enters the sample game. What the windows remember goes to a folder of its own.
 class ManualFixture

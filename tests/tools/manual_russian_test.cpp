@@ -1,6 +1,8 @@
 // The manual's Russian pictures; a process speaks one language only.
 #include "tests/tools/manual_pictures.h"
 
+#include <memory>
+
 class ManualRussianTest : public QObject
 {
     Q_OBJECT

@@ -5,6 +5,7 @@
 #include "shell/elided_label.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QDialog>
 #include <QDir>
 #include <QFile>
@@ -18,6 +19,8 @@
 #include <QTableWidget>
 #include <QTimer>
 #include <QToolButton>
+
+#include <memory>
 
 namespace {
 

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QMap>
 #include <QStringList>
 #include <QVector>
 

@@ -1,7 +1,6 @@
 // The sample game's music: short pieces written for it as lines of notes, and their sound.
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 #include <QVector>
 
