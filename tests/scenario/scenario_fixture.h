@@ -3,19 +3,12 @@
 #pragma once
 
 #include "document/campaign_data.h"
-#include "gamedata/editor_data.h"
-#include "gamedata/ini_file.h"
 #include "scenario/scenario_info.h"
-#include "shell/dialog_look.h"
-#include "shell/editor_resources.h"
-#include "shell/message_reporter.h"
+#include "tests/shell/editor_fixture.h"
 #include "tests/support/stored_options.h"
-#include "tests/support/tiny_game.h"
 #include "tests/support/widgets.h"
 
-#include <QApplication>
 #include <QListWidget>
-#include <QPushButton>
 #include <QTabWidget>
 
 #include <memory>
@@ -24,26 +17,7 @@
 // Map 24 of the tiny game has the regions "Alder Bay", "Birch Hill" and "Cedar Fen".
 constexpr unsigned int homeMap = 24;
 
-class ScenarioFixture
-{
-public:
-    ScenarioFixture()
-    {
-        initEditorResources();
-        reportWithMessageBoxes();
-        QApplication::setFont(editorFont());
-        game.load();
-    }
-
-    // Before each test: nothing modified, no folder used.
-    void reset()
-    {
-        EditorData::info = {};
-        ini->SetStringVal("Campaign Editor", "Path", "");
-    }
-
-    tiny::Game game;
-};
+using ScenarioFixture = EditorFixture;
 
 // A scenario on a map of this file and this name, as the dialog leaves one. The map's bytes are
 // nobody's but its own, and a human can play the first player.

@@ -5,6 +5,7 @@
 #include "tests/scenario/shown_page.h"
 
 #include <QCheckBox>
+#include <QPushButton>
 #include <QTextEdit>
 
 namespace {

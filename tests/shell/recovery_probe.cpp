@@ -16,9 +16,10 @@
 //
 //   box|TITLE|TEXT|is the main window visible
 //   window|TITLE
+#include "tests/shell/probe.h"
+
 #include <QAbstractButton>
 #include <QAction>
-#include <QApplication>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QListWidget>
@@ -26,41 +27,19 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSplashScreen>
-#include <QTextCodec>
 #include <QTextEdit>
-#include <QTimer>
 
 #include <csignal>
-#include <cstdio>
 #include <cstdlib>
 #include <functional>
 
-extern "C" int run(int argc, char **argv);
-
 namespace {
 
-constexpr int lookInterval = 5; // milliseconds
+using probe::print;
+using probe::visibleWidget;
 
 QStringList steps;
 QStringList answers;
-
-void print(const QStringList &columns)
-{
-    std::printf("%s\n", columns.join('|').replace('\n', "\\n").toUtf8().constData());
-    std::fflush(stdout);
-}
-
-template<typename Widget>
-Widget *visibleWidget()
-{
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        auto *found = qobject_cast<Widget *>(widget);
-        if (found && found->isVisible())
-            return found;
-    }
-    return nullptr;
-}
 
 void answerBox(QMessageBox *box)
 {
@@ -151,9 +130,7 @@ void startLooking()
 {
     steps = qEnvironmentVariable("RECOVERY_PROBE_STEPS").split(';', Qt::SkipEmptyParts);
     answers = qEnvironmentVariable("RECOVERY_PROBE_ANSWERS").split(';', Qt::SkipEmptyParts);
-    auto *timer = new QTimer(QCoreApplication::instance());
-    QObject::connect(timer, &QTimer::timeout, look);
-    timer->start(lookInterval);
+    probe::lookWith(look);
 }
 
 } // namespace
@@ -162,9 +139,5 @@ Q_COREAPP_STARTUP_FUNCTION(startLooking)
 
 int main(int argc, char **argv)
 {
-    // A test run in the background has some of them ignored, and the editor would leave it so.
-    for (const int number : {SIGTERM, SIGHUP, SIGINT})
-        std::signal(number, SIG_DFL);
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
-    return run(argc, argv);
+    return probe::runEditor(argc, argv);
 }

@@ -9,42 +9,21 @@
 // "close" by the window's button, "code NUMBER" by ending the event loop with it, "new ROW" by
 // choosing this row of the dialog for a new campaign, or a signal's number; where the editor
 // survives it, the menu ends it.
+#include "tests/shell/probe.h"
+
 #include <QAbstractButton>
 #include <QAction>
-#include <QApplication>
 #include <QListWidget>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QSplashScreen>
-#include <QTextCodec>
-#include <QTimer>
 
 #include <csignal>
-#include <cstdio>
-
-extern "C" int run(int argc, char **argv);
 
 namespace {
 
-constexpr int lookInterval = 5; // milliseconds
-
-void print(const QStringList &columns)
-{
-    std::printf("%s\n", columns.join('|').replace('\n', "\\n").toUtf8().constData());
-    std::fflush(stdout);
-}
-
-QMainWindow *visibleWindow()
-{
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        auto *window = qobject_cast<QMainWindow *>(widget);
-        if (window && window->isVisible())
-            return window;
-    }
-    return nullptr;
-}
+using probe::print;
 
 // Which of the built-in pictures the splash screen shows.
 QString splashName()
@@ -70,8 +49,8 @@ void answerBox()
     if (!box || !box->isVisible())
         return;
     print({"box", box->windowTitle(), box->text(), QString::number(box->icon()),
-           QString::number(int(box->standardButtons())), visibleWindow() ? "1" : "0",
-           splashName()});
+           QString::number(int(box->standardButtons())),
+           probe::visibleWidget<QMainWindow>() ? "1" : "0", splashName()});
     box->button(QMessageBox::Ok)->click();
 }
 
@@ -104,7 +83,7 @@ void look()
 {
     static bool seen = false;
     answerBox();
-    QMainWindow *window = visibleWindow();
+    QMainWindow *window = probe::visibleWidget<QMainWindow>();
     // The splash screen goes last: before that the start-up is still under way.
     if (!window || seen || splashName().endsWith("visible"))
         return;
@@ -119,9 +98,7 @@ void look()
 
 void startLooking()
 {
-    auto *timer = new QTimer(QCoreApplication::instance());
-    QObject::connect(timer, &QTimer::timeout, look);
-    timer->start(lookInterval);
+    probe::lookWith(look);
 }
 
 } // namespace
@@ -130,9 +107,5 @@ Q_COREAPP_STARTUP_FUNCTION(startLooking)
 
 int main(int argc, char **argv)
 {
-    // A test run in the background has some of them ignored, and the editor would leave it so.
-    for (const int number : {SIGTERM, SIGHUP, SIGINT})
-        std::signal(number, SIG_DFL);
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
-    return run(argc, argv);
+    return probe::runEditor(argc, argv);
 }

@@ -8,25 +8,19 @@
 #include "shell/fusion_style_tweaks.h"
 #include "shell/mss_info.h"
 #include "shell/style.h"
+#include "tests/shell/probe.h"
 #include "tests/support/file_contents.h"
 #include "tests/support/tiny_game.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QEvent>
 #include <QMainWindow>
 #include <QSplashScreen>
 #include <QTest>
-#include <QTimer>
 
-#include <algorithm>
 #include <array>
 
-extern "C" int run(int argc, char **argv);
-
 namespace {
-
-constexpr int lookInterval = 5; // milliseconds
 
 // What was seen while the event loop ran.
 struct Sight
@@ -49,36 +43,17 @@ struct Sight
 Sight sight;
 QString settingsFile;
 
-QMainWindow *visibleWindow()
-{
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        auto *window = qobject_cast<QMainWindow *>(widget);
-        if (window && window->isVisible())
-            return window;
-    }
-    return nullptr;
-}
-
-bool splashIsVisible()
-{
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    return std::any_of(widgets.begin(), widgets.end(), [](const QWidget *widget) {
-        return qobject_cast<const QSplashScreen *>(widget) && widget->isVisible();
-    });
-}
-
 // Which of splash screen, window and sound is there when another one comes or goes. The window is
 // polished while it is made.
 void noteOrder(const QObject *watched, QEvent::Type type)
 {
     if (watched->inherits("QMainWindow") && type == QEvent::Polish) {
-        sight.splashStoodBeforeTheWindow = splashIsVisible();
+        sight.splashStoodBeforeTheWindow = probe::visibleWidget<QSplashScreen>() != nullptr;
         sight.windowWasMadeBeforeSound = !mss;
     } else if (watched->inherits("QMainWindow") && type == QEvent::Show) {
-        sight.splashStayedUntilTheWindow = splashIsVisible();
+        sight.splashStayedUntilTheWindow = probe::visibleWidget<QSplashScreen>() != nullptr;
     } else if (watched->inherits("QSplashScreen") && type == QEvent::Hide) {
-        sight.splashLeftBehindTheWindow = visibleWindow() != nullptr;
+        sight.splashLeftBehindTheWindow = probe::visibleWidget<QMainWindow>() != nullptr;
     }
 }
 
@@ -118,7 +93,7 @@ void lookAndLeave(QMainWindow *window)
 void look()
 {
     static bool seen = false;
-    QMainWindow *window = visibleWindow();
+    QMainWindow *window = probe::visibleWidget<QMainWindow>();
     if (!window || seen)
         return;
     seen = true;
@@ -128,9 +103,7 @@ void look()
 
 void startLooking()
 {
-    auto *timer = new QTimer(QCoreApplication::instance());
-    QObject::connect(timer, &QTimer::timeout, look);
-    timer->start(lookInterval);
+    probe::lookWith(look);
     QCoreApplication::instance()->installEventFilter(new StartWatch(QCoreApplication::instance()));
 }
 

@@ -2,49 +2,36 @@
 // folder of their own.
 #pragma once
 
-#include "gamedata/editor_data.h"
-#include "gamedata/ini_file.h"
 #include "shell/campaign_map_view.h"
 #include "shell/campaign_region_item.h"
-#include "shell/dialog_look.h"
-#include "shell/editor_resources.h"
 #include "shell/main_window.h"
-#include "shell/message_reporter.h"
+#include "tests/shell/editor_fixture.h"
 #include "tests/support/file_dialogs.h"
 #include "tests/support/message_boxes.h"
-#include "tests/support/tiny_game.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QDir>
 #include <QGraphicsScene>
 #include <QLabel>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTest>
 
-class WindowFixture
+class WindowFixture : public EditorFixture
 {
 public:
     WindowFixture()
     {
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
         qputenv("XDG_DATA_HOME", QFile::encodeName(m_settings.filePath("data")));
-        initEditorResources();
-        reportWithMessageBoxes();
-        QApplication::setFont(editorFont());
-        game.load();
     }
 
     // Before each test: nothing modified, no file ever opened, no folder used.
     void reset()
     {
-        EditorData::info = {};
-        ini->SetStringVal("Campaign Editor", "Path", "");
+        EditorFixture::reset();
         QSettings("cmped_info", "").clear();
     }
-
-    tiny::Game game;
 
 private:
     QTemporaryDir m_settings;
