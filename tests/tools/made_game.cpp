@@ -19,10 +19,22 @@ qint32 numberAt(const QByteArray &bytes, int offset)
 
 QByteArray MadeGame::make()
 {
-    const ChildResult run = runChild(builtProgram(QStringLiteral("make_sample_game")), {folder()},
+    m_folder = m_made.path();
+    const ChildResult run = runChild(builtProgram(QStringLiteral("make_sample_game")), {m_folder},
                                      QProcessEnvironment::systemEnvironment(), kMakerTimeout);
     if (!run.exitedNormally || run.exitCode != 0)
         return "the maker failed: " + run.error;
+    return read();
+}
+
+QByteArray MadeGame::openBuilt()
+{
+    m_folder = qEnvironmentVariable("CMPED_SAMPLE_GAME");
+    return read();
+}
+
+QByteArray MadeGame::read()
+{
     for (const char *archive : kArchives) {
         bool ok = false;
         const QString name = QLatin1String(archive);

@@ -1,5 +1,5 @@
-// A sample game made into a temporary folder by the real maker, with its archives and its table
-// file read. The folder goes with the object.
+// A sample game of the real maker, with its archives and its table file read: the build's, or one
+// made into a temporary folder, which goes with the object.
 #pragma once
 
 #include "tests/tools/sample_reader.h"
@@ -26,10 +26,12 @@ qint32 numberAt(const QByteArray &bytes, int offset);
 class MadeGame
 {
 public:
-    QByteArray make(); // empty if all went well
+    // Both are empty if all went well, otherwise they say what is wrong.
+    QByteArray make();
+    QByteArray openBuilt();
 
-    QString folder() const { return m_folder.path(); }
-    QString path(const QString &name) const { return m_folder.filePath(name); }
+    QString folder() const { return m_folder; }
+    QString path(const QString &name) const { return m_folder + QLatin1Char('/') + name; }
     QByteArray file(const QString &name) const;
     QVector<ArchiveEntry> archive(const char *name) const;
 
@@ -47,7 +49,10 @@ public:
     CampaignRecord campaign(const QString &name) const;
 
 private:
-    QTemporaryDir m_folder;
+    QByteArray read();
+
+    QTemporaryDir m_made;
+    QString m_folder;
     QMap<QString, QVector<ArchiveEntry>> m_archives;
     QMap<QString, QByteArray> m_entries;
     QVector<DatEntry> m_table;

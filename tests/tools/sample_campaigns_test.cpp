@@ -12,7 +12,7 @@ class SampleCampaignsTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QCOMPARE(m_game.make(), QByteArray()); }
+    void initTestCase() { QCOMPARE(m_game.openBuilt(), QByteArray()); }
     void everyTrackThatStoriesPlayIsThere();
     void mapsAreOfEveryVersion_data();
     void mapsAreOfEveryVersion();

@@ -20,7 +20,7 @@ private:
 
 void SampleGameSumsTest::initTestCase()
 {
-    QCOMPARE(m_game.make(), QByteArray());
+    QCOMPARE(m_game.openBuilt(), QByteArray());
 }
 
 void SampleGameSumsTest::contentsAreTheSameFromEveryCompiler_data()
