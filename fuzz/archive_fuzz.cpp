@@ -6,13 +6,20 @@
 
 #include <QFile>
 
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+#include <vector>
+
 namespace {
 
-// Reads every byte of the answer and the zero behind it.
+// Reads every byte of the answer and the zero behind it. What isn't in the index has no bytes.
 void readAll(const LodArchive &archive, const QString &name)
 {
     int size = 0;
     const std::unique_ptr<char[]> bytes(archive.getFileData(name, &size));
+    if (bytes && !archive.hasFile(name))
+        abort();
     if (bytes && (size < 0 || QByteArray(bytes.get(), size + 1).back() != '\0'))
         abort();
 }
@@ -32,5 +39,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     archive.Read(file, input.path());
     for (auto entry = archive.files.begin(); entry != archive.files.end(); ++entry)
         readAll(archive, entry.key());
+    // Behind one that goes first, whatever is in it.
+    std::vector<LodArchive> archives{archive, LodArchive()};
+    archives.back().path = QStringLiteral("Data/Ravn.lod");
+    std::stable_sort(archives.begin(), archives.end(), CompLods());
+    if (archives.front().path == archive.path)
+        abort();
     return 0;
 }

@@ -4,21 +4,43 @@
 #include "fuzz/quiet_start.h"
 #include "fuzz/time_limit.h"
 
+#include <QDataStream>
 #include <QFile>
+
+#include <cstdlib>
+
+namespace {
+
+// By itself, as it stands in the packed header.
+QByteArray recordOf(ScenarioData &scenario, CampaignData &campaign)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream.setByteOrder(QDataStream::LittleEndian);
+    scenario.WriteToStream(stream, &campaign);
+    return bytes;
+}
+
+} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     static const QuietStart start(fillSmallTables);
     const TimeLimit limit;
     static MemoryFile input;
+    static QFile missing(QStringLiteral("/proc/self/fd/none"));
     input.set(data, size);
     QFile file(input.path());
     if (!file.open(QIODevice::ReadOnly))
         return 0;
     CampaignData campaign;
+    if (campaign.ReadFromFile(&missing))
+        abort();
     if (!campaign.ReadFromFile(&file))
         return 0;
     campaign.toPieces();
+    if (!campaign.scenarios.empty() && recordOf(campaign.scenarios.back(), campaign).isEmpty())
+        abort();
     for (const ScenarioData &scenario : campaign.scenarios) {
         const bool sound = scenario.mapSize == quint32(scenario.compressedMap.size());
         if (!sound)

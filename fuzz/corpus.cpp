@@ -7,7 +7,7 @@ std::vector<Target> targets()
     return {
         {"archive", archives()},
         {"campaign", campaigns()},
-        {"dialog", campaigns()},
+        {"dialog", campaignsToShow()},
         {"layout", layouts()},
         {"map_header", maps()},
         {"pcx", pictures()},

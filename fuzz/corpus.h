@@ -15,6 +15,7 @@ struct File
 
 std::vector<File> archives();
 std::vector<File> campaigns();
+std::vector<File> campaignsToShow();
 std::vector<File> layouts();
 std::vector<File> maps();
 std::vector<File> optionLists();

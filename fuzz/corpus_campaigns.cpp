@@ -34,6 +34,11 @@ QByteArray bits(int count)
     return QByteArray((count + 7) / 8, '\x5a');
 }
 
+// In the place of an option type: bonuses without the one that nobody knows.
+constexpr unsigned knownBonuses = 255;
+// And no hero at all.
+constexpr unsigned noHeroes = 254;
+
 // One of each kind, by option type; bonuses of every type and of one that nobody knows.
 QByteArray startOptions(unsigned type)
 {
@@ -41,7 +46,8 @@ QByteArray startOptions(unsigned type)
     options.u8(type);
     switch (type) {
     case 1:
-        options.u8(0).u8(9);
+    case knownBonuses:
+        options = ByteWriter().u8(1).u8(0).u8(type == 1 ? 9 : 8);
         options.u8(0).u16(1).u8(2);
         options.u8(1).u16(1).u16(2).u16(3);
         options.u8(2).u8(7);
@@ -50,9 +56,11 @@ QByteArray startOptions(unsigned type)
         options.u8(5).u16(1).u8(1).u8(2).u8(3).u8(4);
         options.u8(6).u16(1).u8(5).u8(3);
         options.u8(7).u8(6).i32(-1000);
-        return options.u8(8).bytes();
+        return type == 1 ? options.u8(8).bytes() : options.bytes();
     case 2:
         return options.u8(2).u8(0).u8(0).u8(1).u8(1).bytes();
+    case noHeroes:
+        return ByteWriter().u8(3).u8(0).bytes();
     case 3:
         return options.u8(1).u8(0).u16(12).bytes();
     default:
@@ -186,6 +194,18 @@ std::vector<File> campaigns()
         {"hostile_bomb_map",
          gzip(head(10, false, 1, 25).raw(scenario(10, 1, bombMap, 0)).bytes()) + bombMap},
     };
+}
+
+// Those above, and one that the program doesn't end over, with a map in every region.
+std::vector<File> campaignsToShow()
+{
+    const QByteArray map = packing::pack(mapHeader(28), stored);
+    ByteWriter known = head(10, true, 0, 25);
+    for (const unsigned options : {knownBonuses, 2U, noHeroes})
+        known.raw(scenario(10, 3, map, options));
+    std::vector<File> files = campaigns();
+    files.push_back({"known_bonuses", known.bytes() + map + map + map});
+    return files;
 }
 
 // A byte that chooses format and kind of campaign, and a record.

@@ -16,7 +16,8 @@ enum Encoding : char
     Gb18030,
     EucKr,
     Big5,
-    ShiftJis
+    ShiftJis,
+    Tscii
 };
 
 // What stands between a map's name and its region's: a dash, in the encoding at hand.
@@ -69,24 +70,40 @@ std::vector<File> textImports()
         {"euc_kr", char(EucKr) + texts(gbDash, "\xb0\xa1 \xff")},
         {"big5", char(Big5) + texts("\xa1X", "\xa4\x40 \xff")},
         {"shift_jis", char(ShiftJis) + texts("\x81\\", "\x82\xa0 \xb1 \xff")},
+        {"control_characters", char(ShiftJis) + texts("\x81\\", "\x1a\x1c\x7f \x82 \xff")},
+        {"tscii", char(Tscii) + texts(windowsDash, "\x81\x84 \xb8\xa4 \xff")},
+        {"escape", char(Big5) + texts("\xa1X", "\x1b$B$\"\x1b(B \x1b$B\xff")},
+        {"other_description", char(Utf8) + texts(utf8Dash, "a").replace("Description:", "About:")},
+        {"other_region_text", char(Utf8) + texts(utf8Dash, "a").replace("Right-click", "Left")},
+        {"other_prologue", char(Utf8) + texts(utf8Dash, "a").replace("Prologue:", "Before:")},
+        {"other_epilogue", char(Utf8) + texts(utf8Dash, "a").replace("Epilogue:", "After:")},
         {"without_line_ends", char(Utf8) + texts(utf8Dash, "a").replace("\r\n", "\n")},
         {"other_name", char(Utf8) + texts(" - ", "a")},
         {"too_few_lines", char(Utf8) + value("Name", "a") + value("Description", "b")},
     };
 }
 
+// A byte that chooses the table, and its text.
 std::vector<File> textTables()
 {
     const QByteArray wide = "Name\tx" + QByteArray(11, '\t');
+    const QByteArray mixed = rows(wide, 6) + rows(" \t", 2) + rows("Name\tCost", 20);
     return {
-        {"wide_rows", rows(wide, 6)},
-        {"two_columns", rows("Name\tCost", 20)},
-        {"names", rows("Name", 90)},
-        {"blank_rows", rows("Name", 3) + rows(" \t", 3) + rows("Name", 3)},
-        {"caption_inside", rows("Spell", 5) + rows("Combat Spells", 1) + rows("Spell", 60)},
-        {"bare_line_feeds", QByteArray("Name\n").repeated(20)},
-        {"zero_byte", rows("Name", 5) + '\0' + rows("Name", 5)},
-        {"empty", {}},
+        {"creatures", char(0) + mixed},
+        {"artifacts", char(1) + mixed},
+        {"heroes", char(2) + mixed},
+        {"resources", char(3) + mixed},
+        {"primary_skills", char(4) + mixed},
+        {"jktext", char(5) + mixed},
+        {"skills", char(6) + mixed},
+        {"spells", char(7) + rows("Spell", 5) + rows("Combat Spells", 1) + rows("Spell", 70)},
+        {"spells_with_blanks", char(7) + rows("Spell", 5) + rows(" \t", 2) + rows("Spell", 2)},
+        {"buildings", char(8) + rows("Name\tCost", 90)},
+        {"buildings_one_column", char(8) + rows("Name", 20)},
+        {"bare_line_feeds", char(2) + QByteArray("Name\n").repeated(20)},
+        {"zero_byte", char(6) + rows("Name", 5) + '\0' + rows("Name", 5)},
+        {"empty", QByteArray(1, '\0')},
+        {"nothing", {}},
     };
 }
 

@@ -1,6 +1,7 @@
 // The game's tables as the input would have them: whatever is asked for, the text is the same.
 #pragma once
 
+#include "fuzz/memory_file.h"
 #include "gamedata/runtime/dat_file.h"
 
 #include <QByteArray>
@@ -8,20 +9,32 @@
 #include <memory>
 #include <vector>
 
-// Makes an archive with every text table that the editor reads the game's only one. The tables
-// stand in memory, all at the same place.
-void makeTextTables(const QByteArray &text);
+// An entry of the table file, and which of its strings the readers look at.
+struct MadeEntry
+{
+    const char *name;
+    std::vector<int> strings;
+};
 
-// The game's table file while it lives: an entry of each name, with as many strings as any reader
-// asks for, all of which are the text.
-class MadeTableFile
+// While it lives, the game has one archive with every text table that the editor reads, all in the
+// same place of a file in memory, and a table file with these entries. Made once for all inputs:
+// each changes the text alone.
+class MadeTables
 {
 public:
-    MadeTableFile(const std::vector<const char *> &names, const QByteArray &text);
-    ~MadeTableFile();
-    MadeTableFile(const MadeTableFile &) = delete;
-    MadeTableFile &operator=(const MadeTableFile &) = delete;
+    explicit MadeTables(std::vector<MadeEntry> entries);
+    ~MadeTables();
+    MadeTables(const MadeTables &) = delete;
+    MadeTables &operator=(const MadeTables &) = delete;
+
+    // Makes this the text of every table, and of the strings that somebody looks at.
+    void fill(const QByteArray &text);
 
 private:
-    const std::unique_ptr<TDatFile> m_table;
+    void addEntries();
+    void addArchive();
+
+    const std::vector<MadeEntry> m_entries;
+    const std::unique_ptr<TDatFile> m_tableFile;
+    MemoryFile m_texts;
 };

@@ -7,6 +7,8 @@
 #include <QDataStream>
 #include <QFile>
 
+#include <cstdlib>
+
 namespace {
 
 void readHeader(const QByteArray &bytes, bool check)
@@ -24,6 +26,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     static const QuietStart start(fillSmallTables);
     const TimeLimit limit;
     static MemoryFile input;
+    static QFile missing(QStringLiteral("/proc/self/fd/none"));
     const auto bytes =
         QByteArray::fromRawData(reinterpret_cast<const char *>(data), static_cast<int>(size));
     readHeader(bytes, true);
@@ -31,7 +34,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     input.set(data, size);
     QFile file(input.path());
     ScenarioData scenario;
-    if (file.open(QIODevice::ReadOnly))
-        scenario.ReadMapFromFile(&file);
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    if (scenario.ReadMapFromFile(&file) != 1 && scenario.mapHeader)
+        abort(); // a map that is refused changes nothing
+    // Read to its end already, and not there at all: no map in either.
+    if (scenario.ReadMapFromFile(&file) == 1 || scenario.ReadMapFromFile(&missing) == 1)
+        abort();
     return 0;
 }

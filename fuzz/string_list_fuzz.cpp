@@ -66,8 +66,12 @@ void askAboutText(char *text)
     StrToInt(text);
     IsFileNameValid(text);
     IsDelimiter(text, text, length / 2);
-    if (std::strpbrk(GetShortFileName(text), "/\\") || SizeToDword(length) % 4 != 0)
+    if (std::strpbrk(GetShortFileName(text), "/\\"))
         abort();
+    for (const int size : {length, -length}) {
+        if (SizeToDword(size) % 4 != 0 || std::abs(SizeToDword(size)) < length)
+            abort();
+    }
 }
 
 // To words and back again, as many bits as there are whole words. Longer masks only take longer.
@@ -97,5 +101,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     splitNumbers(text.get());
     askAboutText(text.get());
     turnMask(data, size);
+    if (Get_Ravn_Version_Text() != Ravn_Version_Text)
+        abort();
     return 0;
 }

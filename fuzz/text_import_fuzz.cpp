@@ -9,6 +9,7 @@
 #include "gamedata/locale_codec.h"
 
 #include <QFile>
+#include <QTextCodec>
 
 #include <array>
 #include <cstddef>
@@ -17,9 +18,22 @@
 
 namespace {
 
-constexpr std::array<const char *, 7> encodings{"UTF-8",  "Windows-1251", "Windows-1252", "GB18030",
-                                                "EUC-KR", "Big5",         "Shift_JIS"};
+// In the last one neighbours mean something else than they do by themselves.
+constexpr std::array<const char *, 8> encodings{"UTF-8",  "Windows-1251", "Windows-1252", "GB18030",
+                                                "EUC-KR", "Big5",         "Shift_JIS",    "TSCII"};
 constexpr unsigned mapOfThreeRegions = 24;
+
+// The codecs as the program's start sets them. One that it refuses would leave nothing to import.
+std::array<QTextCodec *, encodings.size()> codecs()
+{
+    std::array<QTextCodec *, encodings.size()> set;
+    for (size_t i = 0; i < encodings.size(); ++i) {
+        if (!setLocaleCodec(QLatin1String(encodings[i])))
+            abort();
+        set[i] = QTextCodec::codecForLocale();
+    }
+    return set;
+}
 
 // Two scenarios with maps and one without, with prologues and epilogues here and there.
 CampaignData campaignWithTexts()
@@ -50,8 +64,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     static const QuietStart start(fillSmallTables);
     const TimeLimit limit;
     static MemoryFile memory;
-    if (size == 0 || !setLocaleCodec(QLatin1String(encodings[data[0] % encodings.size()])))
+    static const auto all = codecs();
+    if (size == 0)
         return 0;
+    QTextCodec::setCodecForLocale(all[data[0] % all.size()]);
     const auto bytes =
         QByteArray::fromRawData(reinterpret_cast<const char *>(data) + 1, int(size) - 1);
     if (bytesFromText(textFromBytes(bytes)) != bytes)

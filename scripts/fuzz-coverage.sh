@@ -15,7 +15,7 @@ enough=95
 export LC_ALL=C.UTF-8
 
 all_targets() { grep -v '^#' fuzz/readers.txt | awk '{ print $1 }'; }
-readers_of() { awk -v name="$1" '$1 == name { $1 = ""; print }' fuzz/readers.txt; }
+readers_of() { awk -v name="$1" '$1 == name { $1 = $2 = ""; print }' fuzz/readers.txt; }
 
 # Runs every file of the corpus once, as it is.
 replay() {

@@ -2,7 +2,7 @@
 # Fuzzes the readers: libFuzzer under AddressSanitizer and UBSan (clang), one target after another.
 # What is found stays in build/fuzz/found; fuzz/corpus gets the few files that reach everything.
 #   scripts/fuzz.sh [SECONDS] [TARGET...]      so long for each target (60)
-#   scripts/fuzz.sh --runs N [TARGET...]       so many runs of each target
+#   scripts/fuzz.sh --runs N [TARGET...]       so many runs of each target, or two hours of it
 #   scripts/fuzz.sh --minimise [TARGET...]     no runs, only the corpora and the table
 # A table of figures goes to standard output. A fault ends its target; its input lies in
 # build/fuzz/faults, and the exit status is 1.
@@ -23,13 +23,17 @@ logs=$work/logs
 # wall, finds what waits for ever.
 megabytes=256
 seconds=120
-longest=4096
-export ASAN_OPTIONS=quarantine_size_mb=16:detect_leaks=1${ASAN_OPTIONS:+:$ASAN_OPTIONS}
+longest_fuzzing=7200
+# Most of an input's time goes into memory, and most of that into noting who asked for it, of which
+# two callers are enough here: a fault shows them all when its file is run by hand.
+export ASAN_OPTIONS=quarantine_size_mb=16:detect_leaks=1:malloc_context_size=2${ASAN_OPTIONS:+:$ASAN_OPTIONS}
 export UBSAN_OPTIONS=print_stacktrace=1
 export LSAN_OPTIONS=suppressions=$PWD/tests/leaks.supp:print_suppressions=0
 export LC_ALL=C.UTF-8
 
 all_targets() { grep -v '^#' fuzz/readers.txt | awk '{ print $1 }'; }
+
+length_of() { awk -v name="$1" '$1 == name { print $2 }' fuzz/readers.txt; }
 
 # figure NAME LOG: one of libFuzzer's final figures.
 figure() { sed -n "s/^stat::$1: *//p" "$2"; }
@@ -49,9 +53,9 @@ limits_of() {
 # Fuzzes one target until its time or its runs are up. False if there is a fault.
 fuzz() {
     local target=$1
-    # shellcheck disable=SC2046
-    "$work/bin/${target}_fuzz" "$kind=$amount" $(limits_of "$target") -max_len=$longest -print_final_stats=1 \
-        "-dict=fuzz/dictionaries/$target.dict" "-artifact_prefix=$faults/$target-" \
+    # shellcheck disable=SC2046,SC2086
+    "$work/bin/${target}_fuzz" $kind $(limits_of "$target") "-max_len=$(length_of "$target")" \
+        -print_final_stats=1 "-dict=fuzz/dictionaries/$target.dict" "-artifact_prefix=$faults/$target-" \
         "$found/$target" "fuzz/corpus/$target" >"$logs/$target.log" 2>&1
 }
 
@@ -87,10 +91,10 @@ table() {
     done
 }
 
-kind=-max_total_time amount=60
+kind=-max_total_time=60
 case ${1:-} in
 --runs)
-    kind=-runs amount=${2:?how many runs}
+    kind="-runs=${2:?how many runs} -max_total_time=$longest_fuzzing"
     shift 2
     ;;
 --minimise)
@@ -98,7 +102,7 @@ case ${1:-} in
     shift
     ;;
 [0-9]*)
-    amount=$1
+    kind=-max_total_time=$1
     shift
     ;;
 esac

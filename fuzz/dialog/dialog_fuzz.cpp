@@ -13,6 +13,7 @@
 #include <QFile>
 #include <QListWidget>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <algorithm>
@@ -72,9 +73,9 @@ bool isWorthShowing(const CampaignData &campaign)
            std::none_of(campaign.scenarios.begin(), campaign.scenarios.end(), endsTheProgram);
 }
 
-std::optional<CampaignData> readFrom(const MemoryFile &memory)
+std::optional<CampaignData> readFrom(const QString &path)
 {
-    QFile file(memory.path());
+    QFile file(path);
     CampaignData campaign;
     if (!file.open(QIODevice::ReadOnly) || !campaign.ReadFromFile(&file))
         return {};
@@ -108,15 +109,16 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     static MemoryFile memory;
     memory.set(data, size);
     EditorData::info = {};
-    std::optional<CampaignData> campaign = readFrom(memory);
+    std::optional<CampaignData> campaign = readFrom(memory.path());
     if (!campaign || !isWorthShowing(*campaign))
         return 0;
     CampaignData edited = throughTheDialog(std::move(*campaign));
-    QByteArray saved;
-    for (const QByteArray &piece : edited.toPieces())
-        saved += piece;
-    memory.set(saved);
-    const std::optional<CampaignData> again = readFrom(memory);
+    static const QTemporaryDir folder(
+        QStringLiteral("/dev/shm/cmped-fuzz-XXXXXX")); // a disk is slow
+    static const QString path = folder.filePath(QStringLiteral("saved.e3c"));
+    if (!edited.saveTo(path).ok)
+        return 0;
+    const std::optional<CampaignData> again = readFrom(path);
     if (!again || storedWords(*again) != storedWords(edited))
         abort(); // the author would find another campaign than the one that was saved
     return 0;
