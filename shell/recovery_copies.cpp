@@ -33,6 +33,9 @@ void RecoveryCopies::keep(const QString &documentName, const RecoveryOrigin &ori
     const bool isNew = m_base.isEmpty();
     if (isNew && !reserveName(documentName))
         return;
+    // Before the copy: one without its note would be that of a document without a file.
+    if (isNew && !origin.path.isEmpty())
+        writeOrigin(originPath(m_folder, m_base), origin);
     auto written = replaceFile(m_path, pieces);
     if (!written) {
         if (isNew)
@@ -40,11 +43,8 @@ void RecoveryCopies::keep(const QString &documentName, const RecoveryOrigin &ori
         return;
     }
     m_lock = std::move(written);
-    if (!isNew)
-        return;
-    if (!origin.path.isEmpty())
-        writeOrigin(originPath(m_folder, m_base), origin);
-    removeOldest();
+    if (isNew)
+        removeOldest();
 }
 
 void RecoveryCopies::remove()
