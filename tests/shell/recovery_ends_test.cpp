@@ -25,6 +25,8 @@ private slots:
 
     void otherEndsLeaveTheCopy_data();
     void otherEndsLeaveTheCopy();
+    void endsLeaveTheCopyOfAnUntitledCampaign_data();
+    void endsLeaveTheCopyOfAnUntitledCampaign();
     void savedAndUnwantedChangesLeaveNone_data();
     void savedAndUnwantedChangesLeaveNone();
     void nextStartOffersItOnceTheWindowShows();
@@ -44,6 +46,11 @@ private:
     {
         return QDir(recovery()).entryList({"*.e3c"}, QDir::Files | QDir::Hidden, QDir::Name);
     }
+    // A campaign with scenarios, in a file that is always the same.
+    QString addHome() const
+    {
+        return game->addCampaign("home.e3c", tiny::campaign(24, {{true, 1}, {true, 3}, {}}));
+    }
     // Of the campaign in the only copy.
     QString nameInCopy() const;
     // The question about the only copy, as the probe prints it.
@@ -51,6 +58,7 @@ private:
 
     std::unique_ptr<tiny::Game> game;
     std::unique_ptr<QTemporaryDir> data;
+    QByteArray changed; // that campaign behind a change, as it is saved
 };
 
 void RecoveryEndsTest::initTestCase()
@@ -125,31 +133,63 @@ void RecoveryEndsTest::otherEndsLeaveTheCopy_data()
     QTest::newRow("SIGINT") << signal(SIGINT) << "";
     QTest::newRow("SIGKILL") << signal(SIGKILL) << "";
     QTest::newRow("SIGSEGV") << signal(SIGSEGV) << "";
-    QTest::newRow("abort") << "abort"
-                           << "";
-    QTest::newRow("a missing picture, without a word") << "new 3"
-                                                       << "";
-    QTest::newRow("a missing picture, with a message") << "recent"
-                                                       << "Yes;OK";
+    QTest::newRow("SIGABRT") << "abort"
+                             << "";
+    QTest::newRow("a missing picture") << "new 3"
+                                       << "";
     QTest::newRow("a cancelled question, then Exit") << "close;exit"
                                                      << "Cancel";
 }
 
+// It is the document to the byte, and the next start brings it back.
 void RecoveryEndsTest::otherEndsLeaveTheCopy()
 {
     QFETCH(QString, end);
     QFETCH(QString, answers);
+    const QString path = addHome();
+    const QByteArray before = contents(path);
+    if (changed.isEmpty()) {
+        start("edit Ember Road;save;exit", {}, {path});
+        changed = contents(path);
+        QVERIFY(changed != before);
+        addHome();
+    }
+    QVERIFY(start("edit Ember Road;" + end, answers, {path}).started);
+    QCOMPARE(contents(path), before);
+    QCOMPARE(copies().size(), 1);
+    QVERIFY(copies()[0].endsWith(" home.e3c"));
+    QCOMPARE(contents(recovery() + '/' + copies()[0]), changed);
+    const QString question = offer("home");
+    QCOMPARE(lines(start("save;exit", "Yes"), "box"), QStringList(question));
+    QCOMPARE(contents(path), changed);
+    QCOMPARE(copies(), QStringList());
+}
+
+void RecoveryEndsTest::endsLeaveTheCopyOfAnUntitledCampaign_data()
+{
+    QTest::addColumn<QString>("end");
+    QTest::newRow("Exit") << "exit";
+    QTest::newRow("a missing picture, with a message") << "recent";
+    QTest::newRow("SIGKILL") << "signal 9";
+}
+
+void RecoveryEndsTest::endsLeaveTheCopyOfAnUntitledCampaign()
+{
+    QFETCH(QString, end);
     // No archive has the picture of its region.
     const QString torn = game->addCampaign("torn.e3c", tiny::campaign(6, {{}}));
     QSettings(data->filePath("cmped_info.conf"), QSettings::IniFormat)
         .setValue("recentFileList", QStringList(torn));
-    const ChildResult result = start("edit Ember Road;" + end, answers);
+    const ChildResult result = start("edit Ember Road;" + end, "Yes;OK");
     QVERIFY(result.started);
     if (end == "recent")
         QCOMPARE(lines(result, "box").value(1),
                  QString("Error|Can't find gone.pcx file in lod file|1"));
     QCOMPARE(nameInCopy(), QString("Ember Road"));
     QVERIFY(copies()[0].endsWith(" Untitled.e3c"));
+    const QString question = offer("Untitled");
+    QCOMPARE(lines(start("exit", "Yes"), "box"), QStringList(question));
+    QCOMPARE(nameInCopy(), QString("Ember Road"));
 }
 
 void RecoveryEndsTest::savedAndUnwantedChangesLeaveNone_data()
