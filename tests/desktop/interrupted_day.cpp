@@ -41,46 +41,50 @@ std::vector<Moment> momentsOfTheDay(const DayRecord &record, int count, std::mt1
         const double time = day * (i + somewhere(source)) / count;
         while (step + 1 < record.size() && time >= begin + record[step].milliseconds)
             begin += record[step++].milliseconds;
-        moments.push_back({step, microseconds(time - begin)});
+        moments.push_back({step, microseconds(time - begin), {}});
     }
     return moments;
 }
 
-// As many at each step that changes something on the disk: that takes some milliseconds, soon
-// before the step's end.
-std::vector<Moment> momentsAtChanges(const DayRecord &record, int count, std::mt19937 &source)
+// As many at each step that changes something on the disk, which takes some milliseconds.
+std::vector<Moment> momentsAtChanges(const DayRecord &record, int count, std::mt19937 &source,
+                                     const QStringList &folders)
 {
     std::vector<int> steps;
     for (int step = 1; step < record.size(); ++step) {
         if (!(record[step].disk == record[step - 1].disk))
             steps.push_back(step);
     }
-    std::uniform_real_distribution<double> beforeTheEnd(0, 60); // milliseconds
+    std::uniform_real_distribution<double> soon(0, 3); // milliseconds
     std::vector<Moment> moments;
     for (int i = 0; i < count && !steps.empty(); ++i) {
         const int step = steps[steps.size() * std::size_t(i) / std::size_t(count)];
-        const double time = record[step].milliseconds - beforeTheEnd(source);
-        moments.push_back({step, microseconds(std::max(0.0, time))});
+        moments.push_back({step, microseconds(soon(source)), folders});
     }
     return moments;
 }
 
 } // namespace
 
-std::vector<Moment> randomMoments(const DayRecord &record, int count, unsigned seed)
+std::vector<Moment> randomMoments(const DayRecord &record, int count, unsigned seed,
+                                  const Workplace &place)
 {
     std::mt19937 source(seed);
     std::vector<Moment> moments = momentsOfTheDay(record, count - count / 2, source);
-    const std::vector<Moment> atChanges = momentsAtChanges(record, count / 2, source);
+    const std::vector<Moment> atChanges =
+        momentsAtChanges(record, count / 2, source, {place.file({}), place.recoveryFolder()});
     moments.insert(moments.end(), atChanges.begin(), atChanges.end());
     std::sort(moments.begin(), moments.end(), [](const Moment &a, const Moment &b) {
-        return std::tie(a.step, a.delay) < std::tie(b.step, b.delay);
+        const bool laterA = !a.folders.isEmpty();
+        const bool laterB = !b.folders.isEmpty();
+        return std::tie(a.step, laterA, a.delay) < std::tie(b.step, laterB, b.delay);
     });
     return moments;
 }
 
-InterruptedDay::InterruptedDay(Workplace &place, const DayRecord &record, std::vector<Moment> ends)
-    : m_place(place), m_record(record), m_moments(std::move(ends))
+InterruptedDay::InterruptedDay(Workplace &place, const DayRecord &record, std::vector<Moment> ends,
+                               std::function<void(const QString &)> tell)
+    : m_place(place), m_record(record), m_moments(std::move(ends)), m_tell(std::move(tell))
 {
     bool fits = std::size_t(record.size()) == m_steps.size();
     for (std::size_t i = 0; fits && i < m_steps.size(); ++i)
@@ -107,7 +111,7 @@ QString InterruptedDay::where() const
 void InterruptedDay::liveStep()
 {
     if (!m_end && m_next < m_moments.size() && m_moments[m_next].step <= m_step)
-        m_end = std::make_unique<SuddenEnd>(m_place.editor(), m_moments[m_next].delay);
+        m_end = std::make_unique<SuddenEnd>(m_place.editor(), m_moments[m_next]);
     std::exception_ptr failure;
     try {
         m_steps[std::size_t(m_step)].act(m_place);
@@ -163,14 +167,15 @@ void InterruptedDay::check(const DiskState &now, bool finished) const
 
 void InterruptedDay::count(const DiskState &now)
 {
-    const DiskState &before = behind(m_step - 1).disk;
+    const bool unchanged = now == behind(m_step - 1).disk;
+    const bool accepted = !unchanged && now == behind(m_step).disk;
     ++m_figures.kills;
-    if (now == before)
-        ++m_figures.unchanged;
-    else if (now == behind(m_step).disk)
-        ++m_figures.accepted;
-    else
-        ++m_figures.between;
+    ++(unchanged ? m_figures.unchanged : accepted ? m_figures.accepted : m_figures.between);
+    m_tell(QString("kill %1: %2 (%3)")
+               .arg(QString::number(m_figures.kills), where(),
+                    unchanged  ? "as before it"
+                    : accepted ? "as behind it"
+                               : "between"));
     const QDir campaigns(m_place.file({}));
     m_figures.hidden += campaigns.entryList({".*"}, QDir::Files | QDir::Hidden).size();
 }

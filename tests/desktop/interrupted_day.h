@@ -10,24 +10,20 @@
 #include "tests/desktop/day_record.h"
 #include "tests/desktop/sudden_end.h"
 
+#include <functional>
 #include <memory>
 
-// So long after the beginning of a step; or as soon as can be, once that has gone by.
-struct Moment
-{
-    int step = 0;
-    std::chrono::microseconds delay{0};
-};
-
-// So many of them in their order: half of them spread over the day, half where a step changes what
-// is on the disk.
-std::vector<Moment> randomMoments(const DayRecord &record, int count, unsigned seed);
+// So many of them in their order: half of them spread over the day, half where the editor has begun
+// to change what is on the disk.
+std::vector<Moment> randomMoments(const DayRecord &record, int count, unsigned seed,
+                                  const Workplace &place);
 
 class InterruptedDay
 {
 public:
-    // The record is that of the same steps.
-    InterruptedDay(Workplace &place, const DayRecord &record, std::vector<Moment> ends);
+    // The record is that of the same steps. Every end is told in a line.
+    InterruptedDay(Workplace &place, const DayRecord &record, std::vector<Moment> ends,
+                   std::function<void(const QString &)> tell);
 
     // Throws a Failure at whatever isn't as it has to be.
     void live();
@@ -68,6 +64,7 @@ private:
     const Steps m_steps = authorsDay();
     const DayRecord m_record;
     const std::vector<Moment> m_moments;
+    const std::function<void(const QString &)> m_tell;
     const DayEntry m_morning;
     Figures m_figures;
     std::unique_ptr<SuddenEnd> m_end;

@@ -8,11 +8,20 @@
 #include <mutex>
 #include <thread>
 
+// When an end comes: so long after the beginning of a step, or after the first file that is made or
+// named in one of these folders since then, if there are any.
+struct Moment
+{
+    int step = 0;
+    std::chrono::microseconds delay{0};
+    QStringList folders;
+};
+
 class SuddenEnd
 {
 public:
-    // So long after now; if no editor runs then, as soon as there is one.
-    SuddenEnd(const Editor &editor, std::chrono::microseconds delay);
+    // The step begins now. If no editor runs at the moment, the end comes as soon as there is one.
+    SuddenEnd(const Editor &editor, const Moment &moment);
     // Takes it back if it hasn't come yet.
     ~SuddenEnd();
     SuddenEnd(const SuddenEnd &) = delete;
@@ -22,8 +31,11 @@ public:
     bool hasCome() const;
 
 private:
-    void come(const Editor &editor, std::chrono::microseconds delay);
+    void come(const Editor &editor, const Moment &moment);
+    bool waitForAFile();
+    bool isTakenBack() const;
 
+    int m_folders = -1; // what tells of files in them
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
     bool m_takenBack = false;

@@ -17,6 +17,7 @@ Workplace::Workplace(BuiltParts parts)
     std::filesystem::copy(m_parts.game.toStdString(), gameFolder().toStdString(),
                           std::filesystem::copy_options::recursive);
     QDir(m_folder.path()).mkpath("campaigns");
+    QDir().mkpath(recoveryFolder());
 }
 
 QProcessEnvironment Workplace::environment() const
