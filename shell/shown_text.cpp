@@ -67,9 +67,10 @@ QString inOneLine(const QString &text)
 
 QString plainToolTip(const QString &text)
 {
+    const QString letters = inOneLine(text);
     QString line;
     int word = 0;
-    for (const QChar letter : inOneLine(text)) {
+    for (const QChar letter : letters) {
         word = letter.isSpace() ? 0 : word + 1;
         if (word > longestWord && !letter.isLowSurrogate()) {
             line += placeToBreak;

@@ -94,11 +94,17 @@ void addNote(std::vector<double> &mix, const Line &line, double hertz, double st
     }
 }
 
+QStringList itemsOf(const Line &line)
+{
+    return QString::fromLatin1(line.notes).split(QLatin1Char(' '));
+}
+
 // Steps of a whole line.
 int stepsOf(const Line &line)
 {
     int steps = 0;
-    for (const QString &item : QString::fromLatin1(line.notes).split(QLatin1Char(' ')))
+    const QStringList items = itemsOf(line);
+    for (const QString &item : items)
         steps += item.section(QLatin1Char('/'), 1).toInt();
     return steps;
 }
@@ -106,9 +112,11 @@ int stepsOf(const Line &line)
 void addLine(std::vector<double> &mix, const Line &line, double secondsPerStep)
 {
     int step = 0;
-    for (const QString &item : QString::fromLatin1(line.notes).split(QLatin1Char(' '))) {
+    const QStringList items = itemsOf(line);
+    for (const QString &item : items) {
         const int steps = item.section(QLatin1Char('/'), 1).toInt();
-        for (const QString &note : item.section(QLatin1Char('/'), 0, 0).split(QLatin1Char('+'))) {
+        const QStringList chord = item.section(QLatin1Char('/'), 0, 0).split(QLatin1Char('+'));
+        for (const QString &note : chord) {
             const double hertz = frequencyOf(note);
             if (hertz > 0)
                 addNote(mix, line, hertz, step * secondsPerStep, steps * secondsPerStep * 0.95);

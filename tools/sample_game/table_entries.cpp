@@ -77,8 +77,9 @@ std::vector<TableEntry> mediaEntries(const QStringList &moviePictures,
     entries.reserve(size_t(movies.size()) + 5); // and a list of each other kind
     for (int i = 0; i < movies.size(); ++i)
         entries.push_back({numbered("video", i), stringsWith(kMoviePlace, movies.at(i))});
+    const QStringList music = addedMusicNames();
     QString tracks = QStringLiteral("# tracks of the add-on\r\n");
-    for (const QString &name : addedMusicNames())
+    for (const QString &name : music)
         tracks += QLatin1Char('"') + name + QStringLiteral("\"\r\n");
     entries.push_back({"music0", stringsWith(kListPlace, tracks)});
     // The second list takes the place of the first.

@@ -44,10 +44,11 @@ QByteArray creatureTable()
 
 QByteArray artifactTable()
 {
+    const QStringList artifacts = names::artifacts();
     Noise noise(2);
     QStringList rows = {QStringLiteral("Artifact traits\t\tSlots"),
                         QStringLiteral("Name\tPrice\tOne column per slot\tClass\tDescription")};
-    for (const QString &name : names::artifacts()) {
+    for (const QString &name : artifacts) {
         const int worn = noise.below(kSlots);
         QStringList columns = {name, QString::number(500 + 250 * noise.below(60))};
         for (int slot = 0; slot < kSlots; ++slot)
@@ -71,9 +72,10 @@ QByteArray heroTable(const QStringList &heroes)
 
 QByteArray skillTable()
 {
+    const QStringList skills = names::skills();
     QStringList rows = {QStringLiteral("Secondary skills\tText"),
                         QStringLiteral("Name\tBasic\tAdvanced\tExpert")};
-    for (const QString &skill : names::skills()) {
+    for (const QString &skill : skills) {
         rows += cells({skill, skill + QStringLiteral(" helps a little."),
                        skill + QStringLiteral(" helps a good deal."),
                        skill + QStringLiteral(" decides the day.")});
@@ -165,17 +167,17 @@ QVector<NamedFile> traitTexts()
 
 QVector<NamedFile> outdatedTexts()
 {
-    QStringList heroes;
-    for (const QString &hero : names::heroes())
-        heroes += hero + QStringLiteral(" (old)");
+    QStringList heroes = names::heroes();
+    for (QString &hero : heroes)
+        hero += QStringLiteral(" (old)");
+    QStringList dwellings = names::dwellings();
+    dwellings.replaceInStrings(QStringLiteral(" "), QStringLiteral(" old "));
     QStringList skills;
     for (int i = 0; i < 4; ++i)
         skills += QStringLiteral("Primary Skill (old)");
     return {{"hotraits.txt", heroTable(heroes)},
             {"PRISKILL.TXT", textTable(skills)},
-            {"dwelling.txt",
-             textTable(QStringList(names::dwellings())
-                           .replaceInStrings(QStringLiteral(" "), QStringLiteral(" old ")))}};
+            {"dwelling.txt", textTable(dwellings)}};
 }
 
 } // namespace sample
