@@ -116,5 +116,5 @@ public:
     }
 
 private:
-    const ProcessorTime m_watch;
+    ProcessorTime m_watch;
 };
