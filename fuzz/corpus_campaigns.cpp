@@ -1,3 +1,4 @@
+// Seeds of campaigns, their scenarios and start options: of every version, and hostile ones.
 #include "fuzz/corpus.h"
 #include "tests/support/byte_writer.h"
 #include "tests/support/packing.h"
