@@ -52,7 +52,8 @@ constexpr RoomRow kRooms[] = {
     {"tests/monkey", "tests/monkey/", "shell|cli|tests/support"},
     {"fuzz/dialog", "fuzz/dialog/", "tests/monkey"},
     {"tests/desktop", "tests/desktop/", "tests/support"},
-    {"benchmarks", "benchmarks/", "shell|tests/gamedata"},
+    {"tests/performance", "tests/performance/", "shell|tests/support"},
+    {"benchmarks", "benchmarks/", "tests/gamedata|tests/performance"},
 };
 
 // For each room, by its number, the numbers of all rooms it may include.
