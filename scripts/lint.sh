@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Checks our own code: its layout (clang-format), its habits (clang-tidy, see .clang-tidy) and its
-# use of Qt (clazy). Needs clang-format, clang-tidy and clazy of Debian 12.
+# use of Qt (clazy). Needs clang-format, clang-tidy, clazy and Google
+# Benchmark (libbenchmark-dev) of Debian 12.
 #   scripts/lint.sh          everything, which takes about an hour on two processors
 #   scripts/lint.sh FILE...  these sources and headers; a header's habits are seen from a source
 set -euo pipefail
@@ -20,7 +21,8 @@ test_checks+=,no-connect-not-normalized
 # read, and with what moc and uic make, but never built.
 prepare() {
     cmake -S . -B build/lint -G Ninja -DCMAKE_BUILD_TYPE=Release \
-        -DCMAKE_EXPORT_COMPILE_COMMANDS=ON -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null
+        -DCMAKE_EXPORT_COMPILE_COMMANDS=ON -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON \
+        -DCMPED_BENCHMARKS=ON >/dev/null
     find build/lint -name AutogenInfo.json -print0 |
         xargs -0 -P "$(nproc)" -I '{}' cmake -E cmake_autogen '{}' Release
 }
