@@ -119,7 +119,7 @@ DayRecord readRecord(const QString &path)
 {
     DayRecord record;
     const QJsonArray entries = QJsonDocument::fromJson(contentOf(path)).array();
-    for (const QJsonValue entry : entries)
+    for (const QJsonValue &entry : entries)
         record.append(entryIn(entry.toObject()));
     if (record.isEmpty())
         throw Failure("the record of a day", "none in " + path);

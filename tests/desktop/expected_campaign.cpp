@@ -25,7 +25,7 @@ QString bits(const QJsonObject &told)
     const bool set = told.contains("set");
     QString text(told["of"].toInt(), set ? '0' : '1');
     const QJsonArray others = told[set ? "set" : "clear"].toArray();
-    for (const QJsonValue place : others)
+    for (const QJsonValue &place : others)
         text[place.toInt()] = set ? '1' : '0';
     return text;
 }
@@ -61,7 +61,7 @@ QJsonValue expanded(const QJsonValue &told, const QString &maps)
         return told;
     QJsonArray values;
     const QJsonArray list = told.toArray();
-    for (const QJsonValue value : list)
+    for (const QJsonValue &value : list)
         values.append(expanded(value, maps));
     return values;
 }

@@ -150,7 +150,9 @@ void InterruptedDay::check(const DiskState &now, bool finished) const
 {
     const DiskState &before = behind(m_step - 1).disk;
     const DiskState &after = behind(m_step).disk;
-    QStringList names = before.files.keys() + after.files.keys() + now.files.keys();
+    QStringList names = before.files.keys();
+    names += after.files.keys();
+    names += now.files.keys();
     names.removeDuplicates();
     for (const QString &name : qAsConst(names)) {
         const QByteArray content = contentIn(now, name);

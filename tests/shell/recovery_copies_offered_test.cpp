@@ -26,8 +26,8 @@ void RecoveryCopiesOfferedTest::newestIsOfferedFirstAndNoneTwice()
     leaveCopy("middle", 20);
     leaveCopy("newest", 10);
     leaveCopy("oldest", 30);
-    for (const QByteArray name : {"newest", "middle", "oldest"})
-        QCOMPARE(offeredBy(RecoveryCopies(folder)), name);
+    for (const char *name : {"newest", "middle", "oldest"})
+        QCOMPARE(offeredBy(RecoveryCopies(folder)), QByteArray(name));
     QCOMPARE(offeredBy(RecoveryCopies(folder)), QByteArray());
     QCOMPARE(files().size(), 3);
     leaveCopy("one more", 40);
