@@ -5,7 +5,7 @@
 
 #include <exception>
 
-struct Failure : std::exception
+struct Failure final : std::exception
 {
     Failure(QString whatWasExpected, QString whatWasSeen)
         : expected(std::move(whatWasExpected)), seen(std::move(whatWasSeen))
