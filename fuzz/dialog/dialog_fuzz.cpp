@@ -46,7 +46,7 @@ class BoxCloser
 public:
     BoxCloser()
     {
-        QObject::connect(&m_timer, &QTimer::timeout, [] {
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [] {
             if (QWidget *box = QApplication::activeModalWidget())
                 box->close();
         });
