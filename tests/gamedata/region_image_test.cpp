@@ -329,8 +329,8 @@ void RegionImageTest::masksAreReadOnceAndStayAsTheyAre()
     QCOMPARE(create(0), rowOf({0xaf1d305f, 0xaf5082ff}));
     QCOMPARE(create(2), rowOf({0x8028417f, 0x795082ff}));
     QCOMPARE(create(1), rowOf({0xaf53607f, 0xaf5082ff}));
-    for (const QString &name : cached.keys())
-        QCOMPARE(preloadArchive->images32[name], cached[name]);
+    for (auto image = cached.cbegin(); image != cached.cend(); ++image)
+        QCOMPARE(preloadArchive->images32[image.key()], *image);
     QVERIFY(preloadArchive->images32.contains("cmpdash.pcx"));
 }
 
