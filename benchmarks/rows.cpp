@@ -41,16 +41,24 @@ double median(std::vector<double> values)
     return *middle;
 }
 
+// What other rows have left in the heap would be warm memory.
+double measured(const Measure &measure, Memory memory)
+{
+    if (memory == Memory::Fresh)
+        malloc_trim(0);
+    return measure();
+}
+
 // Each goes first as often as the other.
-double turn(const Pair &pair, bool workFirst, double &reference)
+double turn(const Pair &pair, Memory memory, bool workFirst, double &reference)
 {
     if (workFirst) {
-        const double work = pair.work();
-        reference = pair.reference();
+        const double work = measured(pair.work, memory);
+        reference = measured(pair.reference, memory);
         return work;
     }
-    reference = pair.reference();
-    return pair.work();
+    reference = measured(pair.reference, memory);
+    return measured(pair.work, memory);
 }
 
 void runRow(const Row &row, benchmark::State &state)
@@ -58,13 +66,13 @@ void runRow(const Row &row, benchmark::State &state)
     setMemory(row.memory);
     const Pair pair = row.prepare();
     double reference = 0;
-    turn(pair, true, reference);
+    turn(pair, row.memory, true, reference);
     std::vector<double> works;
     std::vector<double> references;
     std::vector<double> ratios;
     for (auto step : state) {
         (void)step;
-        const double work = turn(pair, works.size() % 2 == 0, reference);
+        const double work = turn(pair, row.memory, works.size() % 2 == 0, reference);
         works.push_back(work);
         references.push_back(reference);
         ratios.push_back(work / reference);
@@ -91,7 +99,7 @@ void runGrowth(const Growth &growth, benchmark::State &state)
     for (auto iteration : state) {
         (void)iteration;
         for (std::size_t i = 0; i < steps.size(); ++i)
-            times[i].push_back(steps[i].work());
+            times[i].push_back(measured(steps[i].work, growth.memory));
         state.SetIterationTime(times.back().back());
     }
     std::vector<double> medians;
