@@ -282,7 +282,7 @@ void MainWindowRecoveryTest::copyStandsAgainWhereLoadingFails()
     editProperties();
     const QByteArray kept = copy();
     writeFile("bad.e3c", tiny::gzip(""));
-    for (const QString file : {"gone.e3c", "bad.e3c"}) {
+    for (const char *file : {"gone.e3c", "bad.e3c"}) {
         const NextDialog question(boxAnswer(saveQuestion("home", QMessageBox::No)));
         const NextDialog told([](QWidget *box) {
             static_cast<QMessageBox *>(box)->button(QMessageBox::Ok)->click();
