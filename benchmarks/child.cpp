@@ -24,6 +24,7 @@ bool isReplaced(const std::string &variable, const std::vector<std::string> &by)
 std::vector<char *> pointersTo(std::vector<std::string> &texts)
 {
     std::vector<char *> pointers;
+    pointers.reserve(texts.size() + 1);
     for (std::string &text : texts)
         pointers.push_back(text.data());
     pointers.push_back(nullptr);
@@ -65,7 +66,7 @@ std::string outputOf(const std::string &program, const std::vector<std::string> 
                                   pointersTo(words).data(), pointersTo(variables).data());
     posix_spawn_file_actions_destroy(&actions);
     close(ends[1]);
-    const std::string output = fault == 0 ? readToEnd(ends[0]) : std::string();
+    std::string output = fault == 0 ? readToEnd(ends[0]) : std::string();
     close(ends[0]);
     int status = 0;
     if (fault != 0 || waitpid(process, &status, 0) != process || status != 0)

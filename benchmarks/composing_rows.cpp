@@ -127,6 +127,7 @@ void addComposingGrowth()
         growth.of = "pixels";
         growth.prepare = [state = look.state] {
             std::vector<rows::Step> steps;
+            steps.reserve(sizes.size());
             for (const QSize &size : sizes)
                 steps.push_back(
                     {double(size.width()) * size.height(),

@@ -105,6 +105,7 @@ void addOpeningGrowth(const Inputs &inputs)
     growth.memory = rows::Memory::Fresh;
     growth.prepare = [inputs] {
         std::vector<rows::Step> steps;
+        steps.reserve(campaignMaps.size());
         for (const unsigned maps : campaignMaps)
             steps.push_back({double(maps), opening(inputs.campaign(maps))});
         return steps;

@@ -103,6 +103,7 @@ void runGrowth(const Growth &growth, benchmark::State &state)
         state.SetIterationTime(times.back().back());
     }
     std::vector<double> medians;
+    medians.reserve(times.size());
     for (const std::vector<double> &values : times)
         medians.push_back(median(values));
     double worst = -1;

@@ -21,6 +21,7 @@ say "Making the inputs in $inputs" >&2
 "$bin/make_inputs" build/bench/sample-game "$inputs"
 
 work=$(mktemp -d)
+# shellcheck disable=SC2317 # it is called, by the trap
 cleanup() {
     kill "${xvfb:-}" 2>/dev/null || true
     wait 2>/dev/null || true

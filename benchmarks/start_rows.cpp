@@ -62,6 +62,7 @@ void addStartGrowth(const Inputs &inputs)
     growth.turns = 9;
     growth.prepare = [inputs] {
         std::vector<rows::Step> steps;
+        steps.reserve(startEntries.size());
         for (const int entries : startEntries)
             steps.push_back({double(entries), startOf("editor_probe", inputs.startGame(entries))});
         return steps;
