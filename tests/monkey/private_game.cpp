@@ -127,7 +127,7 @@ QString PrivateGame::fileToSave(Dice &dice, FileKind kind) const
 {
     static const QStringList names{"monkey", "обезьяна", "ape %1 %2 & co", "猿.猴",
                                    "three.dots.in"};
-    const QString name = maps() + QLatin1Char('/') + dice.pick(names);
+    QString name = maps() + QLatin1Char('/') + dice.pick(names);
     switch (dice.below(12)) {
     case 0:
         return maps() + QStringLiteral("/no such folder/monkey") + endingOf(kind);

@@ -38,7 +38,7 @@ bool isPartToUse(const QWidget *widget)
 
 void collect(const QWidget *parent, bool inControl, QVector<QWidget *> &controls)
 {
-    const QObjectList children = parent->children();
+    const QObjectList &children = parent->children();
     for (QObject *child : children) {
         auto *widget = qobject_cast<QWidget *>(child);
         if (!widget || widget->isWindow() || !canBeUsed(widget))
