@@ -25,7 +25,7 @@ constexpr unsigned int playerCount = 8;
 bool isSoundMember(const QByteArray &map)
 {
     constexpr int gzipWindow = 31;
-    constexpr uLong largest = 4 * 1024 * 1024;
+    constexpr uLong largest = 4UL * 1024 * 1024;
     z_stream stream = {};
     if (inflateInit2(&stream, gzipWindow) != Z_OK)
         return false;
