@@ -7,7 +7,6 @@
 
 #include <QTest>
 
-using game_files::archive;
 using game_files::GameFolder;
 using game_files::Packed;
 using game_files::Raw;
