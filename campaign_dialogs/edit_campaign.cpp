@@ -31,16 +31,6 @@ void pauseMusic()
         mss->PauseMusic();
 }
 
-// Cuts a text that grew too long.
-void keepWithin(QTextEdit *edit, int length)
-{
-    const QString text = edit->toPlainText();
-    if (text.size() <= length)
-        return;
-    edit->setPlainText(text.left(length));
-    edit->moveCursor(QTextCursor::End);
-}
-
 // The control turns line ends, hard spaces and the like into its own, so the text it was given
 // stands as long as it shows what it showed at first.
 bool storeText(const QTextEdit *edit, const QString &given, const QString &shown, QString &text)

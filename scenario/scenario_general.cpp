@@ -117,11 +117,7 @@ void ScenarioGeneral::ignorePrerequisites()
 
 void ScenarioGeneral::regionTextChanged()
 {
-    const QString text = ui->regionTextEdit->toPlainText();
-    if (text.size() <= longestRegionText)
-        return;
-    ui->regionTextEdit->setPlainText(text.left(longestRegionText));
-    ui->regionTextEdit->moveCursor(QTextCursor::End);
+    keepWithin(ui->regionTextEdit, longestRegionText);
 }
 
 void ScenarioGeneral::setChanged()

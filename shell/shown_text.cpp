@@ -106,3 +106,13 @@ void setEditedText(QTextEdit *edit, const QString &text)
     edit->setLineWrapMode(endless ? QTextEdit::NoWrap : QTextEdit::WidgetWidth);
     edit->setPlainText(text);
 }
+
+void keepWithin(QTextEdit *edit, int length)
+{
+    const QString text = edit->toPlainText();
+    if (text.size() <= length)
+        return;
+    const bool halved = text[length - 1].isHighSurrogate() && text[length].isLowSurrogate();
+    edit->setPlainText(text.left(halved ? length - 1 : length));
+    edit->moveCursor(QTextCursor::End);
+}

@@ -24,3 +24,7 @@ QString headOf(const QString &text, int length);
 // Puts a text into an editor. A word too long to be broken, which would take the control hours,
 // makes it scroll to the side instead.
 void setEditedText(QTextEdit *edit, const QString &text);
+
+// Cuts a text that has grown longer than so many UTF-16 units; the cursor goes to its end then. A
+// character of two units goes whole, since no file can hold half of it.
+void keepWithin(QTextEdit *edit, int length);

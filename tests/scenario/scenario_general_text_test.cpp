@@ -30,6 +30,7 @@ private slots:
     void editedTextReplacesOneThatTheControlCannotShow();
     void textIsCutTo600_data();
     void textIsCutTo600();
+    void noHalfOfACharacterIsLeft();
     void pastedTextIsPlainAndCut();
 
 private:
@@ -136,6 +137,18 @@ void ScenarioGeneralTextTest::textIsCutTo600()
     QTEST(edit->toPlainText(), "after");
     QTEST(edit->textCursor().position(), "cursor");
     QVERIFY(!edit->textCursor().hasSelection());
+}
+
+void ScenarioGeneralTextTest::noHalfOfACharacterIsLeft()
+{
+    CampaignData campaign = twoScenarios();
+    campaign.scenarios[0].regionText = letters(599);
+    GeneralTab tab(campaign);
+    auto *edit = tab.find<QTextEdit>("regionTextEdit");
+    edit->moveCursor(QTextCursor::End);
+    QApplication::clipboard()->setText("😀"); // two of QString's units
+    edit->paste();
+    QCOMPARE(edit->toPlainText(), letters(599));
 }
 
 void ScenarioGeneralTextTest::pastedTextIsPlainAndCut()

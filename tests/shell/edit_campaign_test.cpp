@@ -152,6 +152,7 @@ void EditCampaignTest::textsAreCutAtTheirLimit_data()
         << name << QString("😀").repeated(30) << QString("😀").repeated(30);
     QTest::newRow("31 pictures are cut")
         << name << QString("😀").repeated(31) << QString("😀").repeated(30);
+    QTest::newRow("no half of a picture is left") << name << letters(59) + "😀" << letters(59);
     QTest::newRow("description of 300") << description << letters(300) << letters(300);
     QTest::newRow("description of 301") << description << letters(301) << letters(300);
 }
