@@ -2,26 +2,12 @@
 #include "document/campaign_data.h"
 #include "fuzz/memory_file.h"
 #include "fuzz/quiet_start.h"
+#include "fuzz/scenario_bytes.h"
 #include "fuzz/time_limit.h"
 
-#include <QDataStream>
 #include <QFile>
 
 #include <cstdlib>
-
-namespace {
-
-// By itself, as it stands in the packed header.
-QByteArray recordOf(ScenarioData &scenario, CampaignData &campaign)
-{
-    QByteArray bytes;
-    QDataStream stream(&bytes, QIODevice::WriteOnly);
-    stream.setByteOrder(QDataStream::LittleEndian);
-    scenario.WriteToStream(stream, &campaign);
-    return bytes;
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
@@ -39,7 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     if (!campaign.ReadFromFile(&file))
         return 0;
     campaign.toPieces();
-    if (!campaign.scenarios.empty() && recordOf(campaign.scenarios.back(), campaign).isEmpty())
+    if (!campaign.scenarios.empty() && bytesOfRecord(campaign.scenarios.back(), campaign).isEmpty())
         abort();
     for (const ScenarioData &scenario : campaign.scenarios) {
         const bool sound = scenario.mapSize == quint32(scenario.compressedMap.size());

@@ -3,6 +3,7 @@
 #include "document/campaign_data.h"
 #include "document/campaign_records.h"
 #include "fuzz/quiet_start.h"
+#include "fuzz/scenario_bytes.h"
 #include "fuzz/time_limit.h"
 #include "gamedata/editor_data.h"
 
@@ -37,15 +38,6 @@ ScenarioData readRecord(const QByteArray &bytes, CampaignData &campaign)
     return scenario;
 }
 
-QByteArray writeRecord(ScenarioData &scenario, CampaignData &campaign)
-{
-    QByteArray bytes;
-    QDataStream stream(&bytes, QIODevice::WriteOnly);
-    stream.setByteOrder(QDataStream::LittleEndian);
-    scenario.WriteToStream(stream, &campaign);
-    return bytes;
-}
-
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
@@ -58,12 +50,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const auto record =
         QByteArray::fromRawData(reinterpret_cast<const char *>(data) + 1, int(size) - 1);
     ScenarioData scenario = readRecord(record, campaign);
-    const QByteArray written = writeRecord(scenario, campaign);
+    const QByteArray written = bytesOfRecord(scenario, campaign);
     if (bonusMemory(scenario) < 0 || chainPrerequisites(scenario, 1, 3).size() != 3)
         abort();
     campaign.version = newestVersion; // as everything is written
     ScenarioData again = readRecord(written, campaign);
-    if (writeRecord(again, campaign) != written)
+    if (bytesOfRecord(again, campaign) != written)
         abort(); // something was lost, or a length doesn't fit what follows it
     return 0;
 }
