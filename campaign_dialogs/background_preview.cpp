@@ -3,7 +3,6 @@
 #include "gamedata/campaign_picture.h"
 #include "gamedata/editor_data.h"
 #include "gamedata/image_cache.h"
-#include "gamedata/pcx_image.h"
 #include "gamedata/region_image.h"
 #include "gamedata/report.h"
 
@@ -28,7 +27,8 @@ QImage computedRegion(unsigned campaignId, unsigned index, const CampaignRegion 
 
 QImage readyMadeRegion(const CampaignRegion &region)
 {
-    return OpenPcx8Image(region.imageNames.value(int(regionSelected)).value(int(previewColour)));
+    return preloadArchive->loadPcxImage32(
+        region.imageNames.value(int(regionSelected)).value(int(previewColour)));
 }
 
 void drawRegions(QImage &picture, unsigned campaignId)

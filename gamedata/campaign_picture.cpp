@@ -26,9 +26,7 @@ QString readyMadeName(const CampaignRegion &shape, unsigned state, unsigned colo
     return shape.imageNames.value(int(state)).value(int(colour));
 }
 
-} // namespace
-
-QImage campaignBackground(const QString &name)
+QImage readBackground(const QString &name)
 {
     int size = 0;
     const std::unique_ptr<char[]> record(EditorData::getLodFileData(name, &size));
@@ -36,6 +34,20 @@ QImage campaignBackground(const QString &name)
         return {};
     const QImage image = ReadFromArray(record.get(), size);
     return image.isNull() ? image : image.copy(QRect(QPoint(0, 0), campaignPictureSize));
+}
+
+} // namespace
+
+QImage campaignBackground(const QString &name)
+{
+    QMap<QString, QImage> &kept = preloadArchive->backgrounds;
+    const auto found = kept.constFind(name);
+    if (found != kept.constEnd())
+        return *found;
+    const QImage image = readBackground(name);
+    if (!image.isNull())
+        kept.insert(name, image);
+    return image;
 }
 
 RegionPicture regionPicture(unsigned map, unsigned region, unsigned state, unsigned colour)
@@ -47,6 +59,6 @@ RegionPicture regionPicture(unsigned map, unsigned region, unsigned state, unsig
     if (info.generated)
         return {computedPicture(shape, map, region, state, colour), {}};
     const QString name = readyMadeName(shape, state, colour);
-    const QImage image = OpenPcx8Image(name);
+    const QImage image = preloadArchive->loadPcxImage32(name);
     return {image, image.isNull() ? name : QString()};
 }

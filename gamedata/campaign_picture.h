@@ -9,8 +9,8 @@
 // What the window shows of a background, from its upper left corner, in pixels.
 constexpr QSize campaignPictureSize{456, 600};
 
-// A background out of the archives, cut to campaignPictureSize; null if no archive has it or its
-// record is damaged.
+// A background out of the archives, cut to campaignPictureSize, read once and kept in the cache.
+// Null if no archive has it or its record is damaged; it is looked for again then when asked for.
 QImage campaignBackground(const QString &name);
 
 struct RegionPicture
@@ -19,6 +19,6 @@ struct RegionPicture
     QString missingFile; // the ready-made picture that no archive has, if that is why
 };
 
-// A region's picture: computed and kept in the cache on a generated map, else the ready-made
-// one. States and colours as in region_image.h.
+// A region's picture: computed on a generated map, else the ready-made one. The cache keeps it
+// either way. States and colours as in region_image.h.
 RegionPicture regionPicture(unsigned map, unsigned region, unsigned state, unsigned colour);

@@ -25,6 +25,7 @@ public:
     QMap<QString, QImage> images16;                      // Format_RGB16, by name as asked for
     QMap<QPair<unsigned, unsigned>, QImage> smallImages; // previews, by map and region
     QMap<RegInfo, QImage> largeImages;                   // campaign view
+    QMap<QString, QImage> backgrounds; // cut to the campaign view, by name as asked for
 
     void preloadPcxImage32(const QString &name);
     void preloadPcxImage16(const QString &name);

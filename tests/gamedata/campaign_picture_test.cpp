@@ -6,6 +6,8 @@
 
 #include <QTest>
 
+#include <utility>
+
 using namespace picture_records;
 using namespace region_masks;
 
@@ -89,6 +91,10 @@ private slots:
     void backgroundOf32BitsStandsUpright();
     void backgroundThatCantBeHadIsNull_data();
     void backgroundThatCantBeHadIsNull();
+    void backgroundIsReadOnceForEachCache();
+    void missingBackgroundIsLookedForAgain();
+    void paintingOnABackgroundLeavesTheCacheAlone();
+    void readyMadePictureIsReadOnce();
     void readyMadePictureIsChosenByStateAndColour_data();
     void readyMadePictureIsChosenByStateAndColour();
     void readyMadePictureIsTransparentWhereItIsCyan();
@@ -148,6 +154,56 @@ void CampaignPictureTest::backgroundThatCantBeHadIsNull()
     const ReportRecorder recorder;
     QVERIFY(campaignBackground(name).isNull());
     QVERIFY(recorder.errors.isEmpty());
+}
+
+// Of another game, started anew, the background of that name is another one.
+void CampaignPictureTest::backgroundIsReadOnceForEachCache()
+{
+    m_game->provide({{"bg.pcx", plainRecord(1, 1, {QColor(Qt::red)})},
+                     {"other.pcx", plainRecord(1, 1, {QColor(Qt::green)})}});
+    const QImage first = campaignBackground("bg.pcx");
+    m_game->provide({{"bg.pcx", plainRecord(1, 1, {QColor(Qt::blue)})},
+                     {"other.pcx", plainRecord(1, 1, {QColor(Qt::yellow)})}});
+    const QImage second = campaignBackground("bg.pcx");
+    QCOMPARE(second.pixelColor(0, 0), QColor(Qt::red));
+    QCOMPARE(second.cacheKey(), first.cacheKey());
+    QCOMPARE(second.size(), QSize(456, 600));
+    QCOMPARE(campaignBackground("other.pcx").pixelColor(0, 0), QColor(Qt::yellow));
+    QCOMPARE(preloadArchive->backgrounds.keys(), (QStringList{"bg.pcx", "other.pcx"}));
+
+    PreloadArchive anew;
+    PreloadArchive *const before = std::exchange(preloadArchive, &anew);
+    const QImage third = campaignBackground("bg.pcx");
+    preloadArchive = before;
+    QCOMPARE(third.pixelColor(0, 0), QColor(Qt::blue));
+}
+
+void CampaignPictureTest::missingBackgroundIsLookedForAgain()
+{
+    m_game->provide({});
+    QVERIFY(campaignBackground("bg.pcx").isNull());
+    m_game->provide({{"bg.pcx", plainRecord(1, 1, {QColor(Qt::red)})}});
+    QCOMPARE(campaignBackground("bg.pcx").pixelColor(0, 0), QColor(Qt::red));
+}
+
+void CampaignPictureTest::paintingOnABackgroundLeavesTheCacheAlone()
+{
+    m_game->provide({{"bg.pcx", plainRecord(1, 1, {QColor(Qt::red)})}});
+    QImage painted = campaignBackground("bg.pcx");
+    painted.fill(Qt::blue);
+    QCOMPARE(campaignBackground("bg.pcx").pixelColor(0, 0), QColor(Qt::red));
+}
+
+void CampaignPictureTest::readyMadePictureIsReadOnce()
+{
+    addReadyMadeMap();
+    m_game->provide({{"02.pcx", pixelRecord(Qt::red)}, {"03.pcx", pixelRecord(Qt::green)}});
+    const QImage first = regionPicture(readyMadeMap, 1, 0, 2).image;
+    m_game->provide({{"02.pcx", pixelRecord(Qt::blue)}, {"03.pcx", pixelRecord(Qt::green)}});
+    const QImage second = regionPicture(readyMadeMap, 1, 0, 2).image;
+    QCOMPARE(second.pixelColor(0, 0), QColor(Qt::red));
+    QCOMPARE(second.cacheKey(), first.cacheKey());
+    QCOMPARE(regionPicture(readyMadeMap, 1, 0, 3).image.pixelColor(0, 0), QColor(Qt::green));
 }
 
 void CampaignPictureTest::readyMadePictureIsChosenByStateAndColour_data()
