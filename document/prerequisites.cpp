@@ -20,16 +20,36 @@ bool isSet(const QBitArray &bits, unsigned int index)
     return index < unsigned(bits.size()) && bits.testBit(int(index));
 }
 
-// Sixty-four bits from a multiple of that on, the first one lowest.
-quint64 wordOf(const QBitArray &bits, std::size_t word)
+quint64 wordAt(const char *bytes)
 {
-    const std::size_t bytes = (std::size_t(bits.size()) + 7) / 8;
-    const std::size_t offset = word * wordBytes;
     quint64 raw = 0;
-    if (offset < bytes)
-        std::memcpy(&raw, bits.bits() + offset, std::min(wordBytes, bytes - offset));
+    std::memcpy(&raw, bytes, wordBytes);
     return qFromLittleEndian(raw);
 }
+
+// An array's bits in words of sixty-four, the first bit lowest; clear beyond the array's end. Words
+// in front of `whole` lie in the array in full, which is all that can be said of them quickly.
+struct Words
+{
+    const char *bytes;
+    std::size_t size;  // in bytes
+    std::size_t whole; // in words
+
+    explicit Words(const QBitArray &bits)
+        : bytes(bits.bits()), size((std::size_t(bits.size()) + 7) / 8), whole(size / wordBytes)
+    {
+    }
+
+    quint64 operator[](std::size_t word) const
+    {
+        if (word < whole)
+            return wordAt(bytes + word * wordBytes);
+        quint64 rest = 0;
+        for (std::size_t i = size; i > word * wordBytes; --i)
+            rest = rest << 8 | uchar(bytes[i - 1]);
+        return rest;
+    }
+};
 
 std::size_t wordsFor(std::size_t bits)
 {
@@ -63,8 +83,11 @@ std::vector<quint64> walk(const std::vector<ScenarioData> &scenarios, std::size_
         const QBitArray &bits = scenarios[index].prerequisites;
         if (!visit(bits))
             break;
+        const Words arrows(bits);
         for (std::size_t word = 0; word < seen.size(); ++word) {
-            const quint64 fresh = wordOf(bits, word) & ~seen[word];
+            const quint64 fresh = arrows[word] & ~seen[word];
+            if (fresh == 0)
+                continue;
             seen[word] |= fresh;
             forEachBit(fresh, word * wordBits, [&](std::size_t found) { open.push_back(found); });
         }
@@ -100,7 +123,7 @@ private:
         for (std::size_t row = 0; row < m_scenarios.size(); ++row) {
             quint64 *column = group.data() + row / wordBits;
             const quint64 mark = quint64(1) << row % wordBits;
-            forEachBit(wordOf(m_scenarios[row].prerequisites, word), 0,
+            forEachBit(Words(m_scenarios[row].prerequisites)[word], 0,
                        [&](std::size_t bit) { column[bit * m_words] |= mark; });
         }
         return group;
