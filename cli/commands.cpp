@@ -11,36 +11,83 @@
 
 namespace {
 
-constexpr std::array<Command, 11> commands{{
-    {"dump", "FILE", "prints the whole campaign as JSON", runDump},
-    {"resave", "FILE OUT", "reads a campaign and writes it in the newest format", runResave},
-    {"export-texts", "FILE OUT", "writes a campaign's texts as lines, for translators",
-     runExportTexts},
-    {"import-texts", "FILE TEXTS OUT", "writes a campaign with translated texts", runImportTexts},
-    {"export-maps", "FILE DIR", "writes every scenario's map into a folder", runExportMaps},
-    {"refresh-maps", "FILE DIR OUT", "writes a campaign with the maps of a folder", runRefreshMaps},
-    {"render", "FILE OUT.png", "draws the campaign map as the editor shows it", runRender},
-    {"tables", "", "prints every table of the game's data as JSON", runTables},
-    {"list", "", "lists the archives' files: name, archive and size, parted by tabs", runList},
-    {"extract", "NAME OUT", "writes one archive file; a picture as PNG if OUT ends in .png",
-     runExtract},
-    {"region", "MAP REGION STATE COLOUR OUT.png", "draws one region of a campaign map", runRegion},
-}};
+// The list of all commands fits a screen of 80 columns, and so does each command's own help.
 
-const char usage[] = R"(Usage: cmped-cli [options] COMMAND ARGUMENT...
-Reads and writes campaign files and shows the game's data, without a window.
+constexpr char dumpMore[] =
+    R"(Prints every field of the campaign FILE as JSON, always in the same order. To
+see changes of campaigns in "git diff":
 
-Commands:
+  git config diff.cmped.textconv "cmped-cli --game DIR dump"
+  echo '*.e3c diff=cmped' >> .gitattributes
 )";
 
-const char notes[] = R"(
-Archives are searched in the order in which "list" names them. The state of a region is 0 for
-one with a map, 1 for the selected one and 2 for one without a map; colours go from 0 to 7.
+constexpr char resaveMore[] = R"(Reads the campaign FILE and writes it to OUT in the newest format.
+)";
 
-The game's folder is the one named by --game, else by the variable CMPED_GAME_DIR, else the
-program's own. Output files are replaced only once they are written whole.
+constexpr char exportTextsMore[] =
+    R"(Writes the texts of the campaign FILE to OUT, line by line as the editor does.
+)";
 
-Exit status: 0 done, 1 wrong usage, 2 the input can't be read or the output can't be written.
+constexpr char importTextsMore[] =
+    R"(Takes the file TEXTS over into the campaign FILE and writes that to OUT.
+)";
+
+constexpr char exportMapsMore[] =
+    R"(Writes each scenario's map into the folder DIR, over files of the same names.
+)";
+
+constexpr char refreshMapsMore[] =
+    R"(Writes the campaign FILE to OUT with the maps of the folder DIR in the place of
+its own. Nothing is written unless all of them can be read.
+)";
+
+constexpr char renderMore[] =
+    R"(Draws the campaign map with its regions, or the background without them.
+)";
+
+constexpr char tablesMore[] = R"(Prints every table of the game's data as JSON.
+)";
+
+constexpr char listMore[] =
+    R"(Prints each file's name, archive and size, parted by tabs. The archives stand
+in the order in which they are searched.
+)";
+
+constexpr char extractMore[] =
+    R"(Writes the archives' file NAME to OUT; a picture as PNG if OUT ends in .png.
+)";
+
+constexpr char regionMore[] =
+    R"(Draws one region. STATE is 0 for one with a map, 1 for the selected one and 2
+for one without a map; COLOUR goes from 0 to 7.
+)";
+
+constexpr std::array<Command, 11> commands{{
+    {"dump", "FILE", "prints a campaign as JSON", runDump, dumpMore},
+    {"resave", "FILE OUT", "writes it in the newest format", runResave, resaveMore},
+    {"export-texts", "FILE OUT", "writes its texts for translators", runExportTexts,
+     exportTextsMore},
+    {"import-texts", "FILE TEXTS OUT", "writes it with translated texts", runImportTexts,
+     importTextsMore},
+    {"export-maps", "FILE DIR", "writes its maps into a folder", runExportMaps, exportMapsMore},
+    {"refresh-maps", "FILE DIR OUT", "writes it with the maps of a folder", runRefreshMaps,
+     refreshMapsMore},
+    {"render", "FILE OUT.png", "draws its map as the editor shows it", runRender, renderMore},
+    {"tables", "", "prints the game's tables as JSON", runTables, tablesMore},
+    {"list", "", "lists the archives' files", runList, listMore},
+    {"extract", "NAME OUT", "writes one of them, to .png as PNG", runExtract, extractMore},
+    {"region", "MAP REGION STATE COLOUR OUT.png", "draws one region of a campaign map", runRegion,
+     regionMore},
+}};
+
+constexpr char usage[] = R"(Usage: cmped-cli [options] COMMAND ARGUMENT...
+Reads and writes campaigns and shows the game's data, without a window.
+
+)";
+
+constexpr char notes[] = R"(
+"cmped-cli COMMAND --help" and "man cmped-cli" tell more. Exit status: 0 done,
+1 wrong usage, 2 can't be read or written.
 )";
 
 QString titleOf(const Command &command)

@@ -16,11 +16,11 @@ namespace {
 
 struct Options
 {
-    QCommandLineOption game{QStringLiteral("game"), QStringLiteral("the game's folder"),
+    QCommandLineOption game{QStringLiteral("game"),
+                            QStringLiteral("the game's folder, if it isn't this program's own"),
                             QStringLiteral("DIR")};
     QCommandLineOption encoding{QStringLiteral("encoding"),
-                                QStringLiteral("the encoding of texts in campaigns and maps, such "
-                                               "as Windows-1251; else the locale's"),
+                                QStringLiteral("of texts in campaigns, such as Windows-1251"),
                                 QStringLiteral("NAME")};
     QCommandLineOption help{QStringLiteral("help"), QStringLiteral("shows this text")};
     QCommandLineOption version{QStringLiteral("version"), QStringLiteral("shows the version")};
@@ -69,20 +69,17 @@ ExitStatus runCommand(const QStringList &words)
     const Command *command = findCommand(words.constFirst());
     if (!command)
         return wrongUsage(QStringLiteral("There is no command \"%1\".").arg(words.constFirst()));
-    const QStringList arguments = words.mid(1);
-    if (arguments.size() != argumentNames(*command).size()) {
-        return wrongUsage(QStringLiteral("Usage: cmped-cli [options] %1 %2")
-                              .arg(QLatin1String(command->name), QLatin1String(command->arguments))
-                              .trimmed());
-    }
-    return command->run(arguments);
+    const CommandWords taken = wordsOf(*command, words.mid(1));
+    if (!taken.fault.isEmpty())
+        return wrongUsage(taken.fault);
+    return taken.help ? print(helpOf(*command)) : command->run(taken.arguments, taken.options);
 }
 
 ExitStatus runCommandLine()
 {
     const Options options;
     QCommandLineParser parser;
-    // What follows the command belongs to it, also where it begins with a dash.
+    // What follows the command belongs to it: it has options of its own.
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
     parser.addOptions({options.game, options.encoding, options.help, options.version});
     if (!parser.parse(QCoreApplication::arguments()))

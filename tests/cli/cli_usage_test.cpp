@@ -13,12 +13,14 @@ private slots:
     void wrongWordsEndWithStatusOne_data();
     void wrongWordsEndWithStatusOne();
     void helpNamesEveryCommand();
+    void helpFitsAScreen_data();
+    void helpFitsAScreen();
     void versionIsPrinted();
     void missingGameFileEndsWithStatusTwo_data();
     void missingGameFileEndsWithStatusTwo();
     void unknownGameEncodingEndsWithStatusTwo();
     void gameFolderComesFromEnvironment();
-    void optionsBehindTheCommandAreItsArguments();
+    void behindTwoDashesThereAreOnlyArguments();
 
 private:
     CliGame m_game;
@@ -29,6 +31,23 @@ namespace {
 QString program()
 {
     return builtProgram(QStringLiteral("cmped-cli"));
+}
+
+constexpr int screenLines = 24;
+constexpr int screenColumns = 80;
+
+// The first words of the indented lines, up to the options.
+QStringList commandsInHelp()
+{
+    QStringList commands;
+    const ChildResult result = runChild(program(), {QStringLiteral("--help")});
+    for (const QByteArray &line : result.output.split('\n')) {
+        if (line.startsWith("  --"))
+            break;
+        if (line.startsWith("  "))
+            commands << QString::fromUtf8(line.trimmed().split(' ').first());
+    }
+    return commands;
 }
 
 const char tryHelp[] = "\nTry \"cmped-cli --help\".\n";
@@ -61,6 +80,9 @@ void CliUsageTest::wrongWordsEndWithStatusOne_data()
     row("list a", "Usage: cmped-cli [options] list");
     row("extract a", "Usage: cmped-cli [options] extract NAME OUT");
     row("region 0 0 0 0", "Usage: cmped-cli [options] region MAP REGION STATE COLOUR OUT.png");
+    row("dump --colour a", "Unknown option 'colour'.");
+    row("dump a --help=all", "Unknown option 'help'.");
+    row("dump -- --help b", "Usage: cmped-cli [options] dump FILE");
     row("region x 0 0 0 o.png", "\"x\" is not a number.");
     row("region 0 -1 0 0 o.png", "\"-1\" is not a number.");
     row("region 0 0 4294967296 0 o.png", "\"4294967296\" is not a number.");
@@ -99,8 +121,32 @@ void CliUsageTest::helpNamesEveryCommand()
           "\n  region MAP REGION STATE COLOUR OUT.png ", "\n  --game DIR ", "\n  --encoding NAME ",
           "\n  --help ", "\n  --version "})
         QVERIFY2(result.output.contains(line), line);
-    for (const QByteArray &line : result.output.split('\n'))
-        QVERIFY2(line.size() <= 110, line.constData());
+}
+
+void CliUsageTest::helpFitsAScreen_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<QStringList>("words");
+    QTest::newRow("cmped") << "cmped" << QStringList();
+    QTest::newRow("cmped-cli") << "cmped-cli" << QStringList();
+    for (const QString &command : commandsInHelp())
+        QTest::newRow(qPrintable(command)) << "cmped-cli" << QStringList{command};
+}
+
+void CliUsageTest::helpFitsAScreen()
+{
+    QFETCH(QString, program);
+    QFETCH(QStringList, words);
+    const ChildResult result = runChild(builtProgram(program), words + QStringList{"--help"});
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY2(result.output.startsWith("Usage: " + program.toUtf8() + " "), result.output);
+    for (const QString &word : words)
+        QVERIFY2(result.output.split('\n').first().contains(word.toUtf8()), result.output);
+    const QList<QByteArray> lines = result.output.chopped(1).split('\n');
+    QVERIFY2(lines.size() < screenLines, result.output); // the shell's own line follows
+    for (const QByteArray &line : lines)
+        QVERIFY2(line.size() <= screenColumns, line);
 }
 
 void CliUsageTest::versionIsPrinted()
@@ -164,10 +210,11 @@ void CliUsageTest::gameFolderComesFromEnvironment()
     QCOMPARE(named.output, found.output);
 }
 
-void CliUsageTest::optionsBehindTheCommandAreItsArguments()
+void CliUsageTest::behindTwoDashesThereAreOnlyArguments()
 {
     const CliGame game;
-    const ChildResult result = game.run({QStringLiteral("dump"), QStringLiteral("--help")});
+    const ChildResult result =
+        game.run({QStringLiteral("dump"), QStringLiteral("--"), QStringLiteral("--help")});
     QCOMPARE(result.exitCode, 2);
     QCOMPARE(result.error,
              QByteArray("Error: Cannot read file --help:\nNo such file or directory.\n"));
