@@ -40,9 +40,12 @@ if(CMPED_SANITIZERS)
     set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O1 -g1 -DNDEBUG")
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
-    if(CMAKE_CXX_COMPILER_ID STREQUAL Clang)
-        add_link_options(-fuse-ld=lld)
-    endif()
+endif()
+
+# Hundreds of test programs are linked, which lld does in a quarter of the time.
+find_program(CMPED_LLD ld.lld)
+if(CMPED_LLD)
+    add_link_options(-fuse-ld=lld)
 endif()
 
 option(CMPED_FUZZ "Drive the fuzz targets by libFuzzer (clang only)" OFF)

@@ -1,13 +1,13 @@
-# cmped_room(NAME SOURCES ... LINKS ...): one folder of the house, a static library. With sanitizers
-# Qt's headers are compiled once for it; the ordinary build sees whether each file includes what it
-# needs.
+# cmped_room(NAME SOURCES ... LINKS ...): one folder of the house, a static library. Qt's headers are
+# compiled once for it. Whether each file includes what it needs is seen by scripts/lint.sh, which
+# goes without them.
 function(cmped_room name)
     cmake_parse_arguments(ROOM "" "" "SOURCES;LINKS" ${ARGN})
     add_library(${name} STATIC ${ROOM_SOURCES})
     target_link_libraries(${name} PUBLIC cmped_options ${ROOM_LINKS})
-    if(CMPED_SANITIZERS AND "${ROOM_LINKS}" MATCHES "cmped_(dialogs|scenario|widgets)|Qt5::Widgets")
+    if("${ROOM_LINKS}" MATCHES "cmped_(dialogs|scenario|widgets)|Qt5::Widgets")
         target_precompile_headers(${name} PRIVATE <QtWidgets>)
-    elseif(CMPED_SANITIZERS AND "${ROOM_LINKS}" MATCHES "cmped|Qt5")
+    elseif("${ROOM_LINKS}" MATCHES "cmped|Qt5")
         target_precompile_headers(${name} PRIVATE <QtCore>)
     endif()
 endfunction()
