@@ -16,7 +16,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QIcon>
 #include <QSplashScreen>
 #include <QTimer>
 
@@ -58,7 +57,7 @@ void setAttributes(Session &)
 void createApplication(Session &session)
 {
     session.application = std::make_unique<QApplication>(session.argc, session.argv);
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/cmped.ico")));
+    QApplication::setWindowIcon(applicationIcon());
     reportWithMessageBoxes();
 }
 

@@ -69,6 +69,8 @@ private slots:
     void nameIsTheKeyAsItWasGiven();
     void cachesOfTwoDepthsAreApart_data() { addBitRows(); }
     void cachesOfTwoDepthsAreApart();
+    void pictureReadIn32BitsIsNotReadAgainIn16();
+    void sixteenBitsAreTheSameWhicheverDepthCameFirst();
     void writingToACopyLeavesTheCacheAlone();
     void regionsAreOrderedMemberByMember_data();
     void regionsAreOrderedMemberByMember();
@@ -160,6 +162,41 @@ void ImageCacheTest::cachesOfTwoDepthsAreApart()
     QCOMPARE((cache.*other.load)("cmpdash.pcx").format(), other.format);
     QCOMPARE(cache.images32["cmpdash.pcx"].pixel(0, 0), 0u);
     QCOMPARE(cache.images16["cmpdash.pcx"].pixel(0, 0), 0xff00ffffu);
+}
+
+void ImageCacheTest::pictureReadIn32BitsIsNotReadAgainIn16()
+{
+    const game_files::GameFolder game;
+    PreloadArchive cache;
+    game.provide({{"a.pcx", onePixel(Qt::red)}});
+    cache.preloadPcxImage32("a.pcx");
+    game.provide({{"a.pcx", onePixel(Qt::blue)}});
+    QCOMPARE(cache.loadPcxImage16("a.pcx").pixelColor(0, 0), QColor(Qt::red));
+    QCOMPARE(cache.loadPcxImage16("a.pcx").format(), QImage::Format_RGB16);
+}
+
+// All colours that differ in their highest or lowest bits, cyan and its neighbours among them; of
+// an odd width, so that rows of 16 bits have a gap between them.
+void ImageCacheTest::sixteenBitsAreTheSameWhicheverDepthCameFirst()
+{
+    constexpr int width = 15;
+    constexpr int height = 18;
+    QByteArray indexes(width * height, '\0');
+    QMap<int, QColor> palette;
+    const int values[] = {0, 1, 7, 8, 254, 255};
+    for (int i = 0; i < 216; ++i) {
+        indexes[i] = char(i);
+        palette[i] = QColor(values[i / 36], values[i / 6 % 6], values[i % 6]);
+    }
+    const game_files::GameFolder game;
+    game.provide({{"a.pcx", paletteRecord(width, height, indexes, palette)}});
+    PreloadArchive alone;
+    PreloadArchive after32;
+    after32.preloadPcxImage32("a.pcx");
+    const QImage expected = alone.loadPcxImage16("a.pcx");
+    QCOMPARE(expected.size(), QSize(width, height));
+    QVERIFY(alone.images32.isEmpty());
+    QCOMPARE(after32.loadPcxImage16("a.pcx"), expected);
 }
 
 void ImageCacheTest::writingToACopyLeavesTheCacheAlone()

@@ -1,4 +1,5 @@
 // The window itself: its form, menus, hints and the dialog about the program.
+#include "shell/editor_resources.h"
 #include "tests/shell/window_fixture.h"
 
 #include <algorithm>
@@ -368,12 +369,18 @@ void MainWindowTest::aboutTellsTheGamesTexts()
     action(window, "actionAbout")->trigger();
 }
 
+// The file's own picture of each size, and only of those that are shown somewhere.
 void MainWindowTest::windowHasTheIcon()
 {
-    MainWindow window(nullptr);
-    QVERIFY(!window.windowIcon().isNull());
-    QCOMPARE(window.windowIcon().pixmap(32, 32).toImage(),
-             QIcon(":/icons/cmped.ico").pixmap(32, 32).toImage());
+    initEditorResources();
+    QApplication::setWindowIcon(applicationIcon());
+    const MainWindow window(nullptr);
+    const QList<QSize> sizes{{16, 16}, {24, 24}, {32, 32}, {48, 48}, {64, 64}, {128, 128}};
+    QCOMPARE(window.windowIcon().availableSizes(), sizes);
+    const QIcon whole(":/icons/cmped.ico");
+    for (const QSize size : sizes)
+        QCOMPARE(window.windowIcon().pixmap(size).toImage(), whole.pixmap(size).toImage());
+    QApplication::setWindowIcon({});
 }
 
 QTEST_MAIN(MainWindowTest)
