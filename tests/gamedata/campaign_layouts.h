@@ -14,7 +14,8 @@ inline QMap<QByteArray, QByteArray> emptyTexts()
     return {{"CmpMusic.txt", ""}, {"CmpMovie.txt", ""}, {"CmpEditr.txt", ""}, {"CmpEdCmd.txt", ""}};
 }
 
-inline void initCampaigns(const GameFolder &game, const QMap<QByteArray, QByteArray> &texts = emptyTexts())
+inline void initCampaigns(const GameFolder &game,
+                          const QMap<QByteArray, QByteArray> &texts = emptyTexts())
 {
     game.provide(texts);
     EditorData::initCampaignInfo(game_files::codec());
@@ -37,5 +38,5 @@ inline CampaignInfo readLayout(const QList<QByteArray> &layout)
 }
 
 inline const QList<QByteArray> generatedLayout = {"1",     "2",         "10 20",       "-30 40",
-                                           "North", "NGlow.pcx", "NBorder.pcx", "NFill.pcx",
-                                           "South", "SGlow.pcx", "SBorder.pcx", "SFill.pcx"};
+                                                  "North", "NGlow.pcx", "NBorder.pcx", "NFill.pcx",
+                                                  "South", "SGlow.pcx", "SBorder.pcx", "SFill.pcx"};
