@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
 # Kills the editor at random moments of an author's day, far oftener than the ordinary tests do, and
 # prints what every end has left. The day is lived once without an end first, to compare with.
-#   scripts/kill-torture.sh [KILLS [SEED]]   so many kills, 500 if not said
+#   scripts/kill-torture.sh [KILLS [SEED]]   so many kills, 100 if not said
 set -euo pipefail
 
 cd "$(dirname "$(realpath "$0")")/.."
 # shellcheck source=scripts/common.sh
 . scripts/common.sh
 
-kills=${1:-500}
+kills=${1:-100}
 seed=${2:-2}
 [[ $kills =~ ^[1-9][0-9]*$ && $seed =~ ^[0-9]+$ ]] || die "Usage: scripts/kill-torture.sh [KILLS [SEED]]"
 
