@@ -8,6 +8,7 @@ struct LauncherOptions
 {
     bool help = false;
     bool version = false;
+    std::string game;                    // empty: to be searched
     std::string encoding;                // empty: what the system says
     std::string error;                   // set if the command line is wrong
     std::vector<char *> editorArguments; // what is left, the program's name first

@@ -1,9 +1,9 @@
 #include "shell/startup.h"
 
 #include "gamedata/editor_data.h"
-#include "gamedata/game_dir.h"
 #include "gamedata/game_language.h"
 #include "gamedata/ini_file.h"
+#include "gamedata/translation_file.h"
 
 #include <QApplication>
 #include <QTextCodec>
@@ -26,11 +26,10 @@ void loadTranslations(QApplication *application)
 {
     const int language = gameLanguage(*ini);
     const QStringList files = translationFiles(language);
-    const QString folder = gameRoot() + QStringLiteral("/Ravn_Data/");
     for (int i = 0; i < translatorCount; ++i) {
         auto *translator = new QTranslator(application);
         if (i < files.size())
-            (void)translator->load(folder + files[i]);
+            (void)loadTranslation(*translator, files[i]);
         QCoreApplication::installTranslator(translator);
     }
     EditorData::codec = gameTextCodec(language, *ini);

@@ -122,6 +122,37 @@
     </message>
 </context>
 <context>
+    <name>GameDialog</name>
+    <message>
+        <source>Where is the game Eldmark Saga with its add-on Ravn? Choose its folder: the one with ravn.dat, Ravn_settings.ini and the folder Data.</source>
+        <translation>Where is the game Eldmark Saga with its add-on Ravn? Choose its folder: the one with ravn.dat, Ravn_settings.ini and the folder Data.</translation>
+    </message>
+    <message>
+        <source>The game isn't in this folder any more:
+%1</source>
+        <translation>The game isn't in this folder any more:
+%1</translation>
+    </message>
+    <message>
+        <source>Folder of the Game</source>
+        <translation>Folder of the Game</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation>Choose</translation>
+    </message>
+    <message>
+        <source>This is not the game's folder:
+%1
+
+It lacks: %2</source>
+        <translation>This is not the game's folder:
+%1
+
+It lacks: %2</translation>
+    </message>
+</context>
+<context>
     <name>HeroCrossover</name>
     <message>
         <source>Source scenario</source>

@@ -122,6 +122,37 @@
     </message>
 </context>
 <context>
+    <name>GameDialog</name>
+    <message>
+        <source>Where is the game Eldmark Saga with its add-on Ravn? Choose its folder: the one with ravn.dat, Ravn_settings.ini and the folder Data.</source>
+        <translation>Где находится игра Eldmark Saga с дополнением Ravn? Выберите её папку: ту, в которой лежат ravn.dat, Ravn_settings.ini и папка Data.</translation>
+    </message>
+    <message>
+        <source>The game isn't in this folder any more:
+%1</source>
+        <translation>Игры больше нет в этой папке:
+%1</translation>
+    </message>
+    <message>
+        <source>Folder of the Game</source>
+        <translation>Папка игры</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation>Выбрать</translation>
+    </message>
+    <message>
+        <source>This is not the game's folder:
+%1
+
+It lacks: %2</source>
+        <translation>Это не папка игры:
+%1
+
+В ней не хватает: %2</translation>
+    </message>
+</context>
+<context>
     <name>HeroCrossover</name>
     <message>
         <source>Source scenario</source>

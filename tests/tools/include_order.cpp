@@ -30,12 +30,13 @@ constexpr RoomRow kRooms[] = {
     {"scenario", "scenario/", "document|leaves|sound"},
     {"campaign_dialogs", "campaign_dialogs/", "document|leaves|sound"},
     {"shell", "shell/", "scenario|campaign_dialogs|map view"},
-    {"launcher", "launcher/", "gamedata", false},
+    {"launcher", "launcher/", "gamedata|leaves"},
     {"cli", "cli/", "document", false},
 
     // The maker of the sample game has writers of its own, so that no reader proves itself.
     {"tools/sample_game", "tools/sample_game/", "", false},
     {"tools/manual", "tools/manual/", "shell"},
+    {"tools/icons", "tools/icons/", "", false},
 
     {"made files", "tests/support/byte_writer. tests/support/packing.", "", false},
     {"fuzz", "fuzz/", "document|made files", false},

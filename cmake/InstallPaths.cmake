@@ -1,0 +1,8 @@
+# Where a system-wide install has things, and how the programs find them from where they stand.
+include(GNUInstallDirs)
+set(CMPED_LIBRARY_DIR ${CMAKE_INSTALL_LIBDIR}/cmped)
+set(CMPED_DATA_DIR ${CMAKE_INSTALL_DATADIR}/cmped)
+file(RELATIVE_PATH CMPED_LIBRARY_FROM_BIN
+    ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_PREFIX}/${CMPED_LIBRARY_DIR})
+file(RELATIVE_PATH CMPED_DATA_FROM_BIN
+    ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_PREFIX}/${CMPED_DATA_DIR})
