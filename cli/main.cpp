@@ -2,6 +2,7 @@
 #include "cli/commands.h"
 #include "cli/standard_output.h"
 #include "gamedata/game_dir.h"
+#include "gamedata/game_search.h"
 #include "gamedata/locale_codec.h"
 #include "gamedata/report.h"
 
@@ -94,8 +95,8 @@ ExitStatus runCommandLine()
             QStringLiteral("The encoding \"%1\" is unknown or can't name files.").arg(encoding));
     // File names on the command line go through the same codec as on the way to the disk.
     parser.parse(QCoreApplication::arguments());
-    if (parser.isSet(options.game))
-        setGameRoot(parser.value(options.game));
+    setGameRoot(parser.isSet(options.game) ? parser.value(options.game)
+                                           : findGame(QCoreApplication::applicationDirPath()));
     return runCommand(parser.positionalArguments());
 }
 

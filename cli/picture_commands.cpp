@@ -11,9 +11,12 @@
 
 #include <QPainter>
 
+#include <limits>
+
 namespace {
 
 constexpr unsigned colourCount = 8;
+constexpr int wholeSize = std::numeric_limits<int>::max();
 
 ExitStatus pictureMissing(const RegionPicture &picture, const CampaignInfo &map)
 {
@@ -59,6 +62,16 @@ ExitStatus drawRegions(QImage &target, const CampaignData &campaign)
     return exitDone;
 }
 
+// As file managers ask for thumbnails: nothing is gained by drawing one larger than the map is.
+QImage withinSize(const QImage &picture, int longest)
+{
+    if (picture.width() <= longest && picture.height() <= longest)
+        return picture;
+    const QSize size = picture.size().scaled(longest, longest, Qt::KeepAspectRatio);
+    return picture.scaled(size.expandedTo(QSize(1, 1)), Qt::IgnoreAspectRatio,
+                          Qt::SmoothTransformation);
+}
+
 // The numbers on the command line of "region", in their order.
 struct RegionChoice
 {
@@ -100,8 +113,12 @@ ExitStatus checkRanges(const RegionChoice &choice)
 
 } // namespace
 
-ExitStatus runRender(const QStringList &arguments)
+ExitStatus runRender(const QStringList &arguments, const CommandOptions &options)
 {
+    const QString size = options.value(QStringLiteral("size"));
+    const int longest = options.contains(QStringLiteral("size")) ? size.toInt() : wholeSize;
+    if (longest < 1)
+        return wrongUsage(QStringLiteral("\"%1\" is no size in pixels.").arg(size));
     loadGame();
     CampaignData campaign;
     if (const ExitStatus status = readCampaignFile(arguments[0], campaign))
@@ -114,7 +131,7 @@ ExitStatus runRender(const QStringList &arguments)
         if (const ExitStatus status = drawRegions(picture, campaign))
             return status;
     }
-    return savePicture(arguments[1], picture);
+    return savePicture(arguments[1], withinSize(picture, longest));
 }
 
 ExitStatus runRegion(const QStringList &arguments)

@@ -3,5 +3,6 @@
 
 #include "cli/command.h"
 
-ExitStatus runRender(const QStringList &arguments);
+// The option "size" makes the picture smaller: no side is longer than so many pixels then.
+ExitStatus runRender(const QStringList &arguments, const CommandOptions &options);
 ExitStatus runRegion(const QStringList &arguments);

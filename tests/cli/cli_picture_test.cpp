@@ -20,6 +20,10 @@ private slots:
     void renderBlendsComputedRegions();
     void renderDrawsABackgroundAlone();
     void renderFitsALargeBackground();
+    void renderKeepsWithinASize_data();
+    void renderKeepsWithinASize();
+    void renderRefusesSizesThatAreNone_data();
+    void renderRefusesSizesThatAreNone();
     void renderTellsWhatIsMissing_data();
     void renderTellsWhatIsMissing();
     void regionIsReadyMadeOrComputed_data();
@@ -130,6 +134,54 @@ void CliPictureTest::renderFitsALargeBackground()
     QCOMPARE(m_game.run({render, file, out}).exitCode, 0);
     QCOMPARE(QImage(out).size(), QSize(456, 600));
     QCOMPARE(QImage(out).pixel(455, 599), qRgb(128, 0, 0));
+}
+
+void CliPictureTest::renderKeepsWithinASize_data()
+{
+    QTest::addColumn<QString>("size");
+    QTest::addColumn<QSize>("drawn");
+    QTest::newRow("a thumbnail's") << "150" << QSize(114, 150);
+    QTest::newRow("a little smaller") << "599" << QSize(455, 599);
+    QTest::newRow("as large as it is") << "600" << QSize(456, 600);
+    QTest::newRow("larger") << "2048" << QSize(456, 600);
+    QTest::newRow("a point") << "1" << QSize(1, 1);
+}
+
+void CliPictureTest::renderKeepsWithinASize()
+{
+    QFETCH(QString, size);
+    QFETCH(QSize, drawn);
+    const QString file =
+        m_game.addCampaign(QStringLiteral("keeps.e3c"), tiny::campaign(3, {{true, 4}, {true, 6}}));
+    const QString out = m_game.filePath(QStringLiteral("small.png"));
+    const ChildResult result = m_game.run({render, "--size", size, file, out});
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(result.exitCode, 0);
+    const QImage image(out);
+    QCOMPARE(image.size(), drawn);
+    if (drawn.width() < 100)
+        return;
+    // The first region, which is selected, and the bare map, wherever they are now.
+    const double scale = double(drawn.width()) / 456;
+    QVERIFY(isAbout(image.pixel(int(25 * scale), int(20 * scale)), qRgb(80, 105, 33)));
+    QVERIFY(isAbout(image.pixel(int(300 * scale), int(400 * scale)), qRgb(60, 30, 10)));
+}
+
+void CliPictureTest::renderRefusesSizesThatAreNone_data()
+{
+    QTest::addColumn<QString>("size");
+    for (const char *size : {"0", "-5", "big", "", "1.5", "99999999999"})
+        QTest::newRow(size) << size;
+}
+
+void CliPictureTest::renderRefusesSizesThatAreNone()
+{
+    QFETCH(QString, size);
+    const QString out = m_game.filePath(QStringLiteral("none.png"));
+    const ChildResult result = m_game.run({render, "--size=" + size, "a.e3c", out});
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY(result.error.startsWith("\"" + size.toUtf8() + "\" is no size in pixels.\n"));
+    QVERIFY(!QFile::exists(out));
 }
 
 void CliPictureTest::renderTellsWhatIsMissing_data()

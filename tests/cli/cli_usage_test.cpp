@@ -75,7 +75,7 @@ void CliUsageTest::wrongWordsEndWithStatusOne_data()
     row("import-texts a b", "Usage: cmped-cli [options] import-texts FILE TEXTS OUT");
     row("export-maps a", "Usage: cmped-cli [options] export-maps FILE DIR");
     row("refresh-maps a b", "Usage: cmped-cli [options] refresh-maps FILE DIR OUT");
-    row("render a", "Usage: cmped-cli [options] render FILE OUT.png");
+    row("render a", "Usage: cmped-cli [options] render [--size N] FILE OUT.png");
     row("tables a", "Usage: cmped-cli [options] tables");
     row("list a", "Usage: cmped-cli [options] list");
     row("extract a", "Usage: cmped-cli [options] extract NAME OUT");
