@@ -2,6 +2,7 @@
 #include "gamedata/safe_save.h"
 
 #include "tests/gamedata/safe_save_support.h"
+#include "tests/support/terminal.h"
 
 #include <QtTest>
 
@@ -266,7 +267,9 @@ void SafeSaveTest::refusesWhatIsNoRegularFile()
     QCOMPARE(mkfifo(QFile::encodeName(path(QStringLiteral("pipe"))).constData(), 0600), 0);
     QVERIFY(QFile::link(QStringLiteral("folder"), path(QStringLiteral("to-folder"))));
     QVERIFY(QFile::link(QStringLiteral("pipe"), path(QStringLiteral("to-pipe"))));
-    QVERIFY(QFile::link(QStringLiteral("/dev/null"), path(QStringLiteral("to-device"))));
+    Terminal terminal;
+    QVERIFY(terminal.open());
+    QVERIFY(QFile::link(terminal.name(), path(QStringLiteral("to-device"))));
     const QStringList before = QDir(m_dir->path()).entryList(QDir::AllEntries | QDir::System);
     const SaveResult result = saveFileSafely(path(name), {"new"});
     QVERIFY(!result.ok);

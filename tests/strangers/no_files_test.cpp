@@ -4,38 +4,12 @@
 #include "tests/shell/exchange_window.h"
 #include "tests/support/child_process.h"
 #include "tests/support/idle_pipe.h"
+#include "tests/support/terminal.h"
 
 #include <QDragEnterEvent>
 #include <QMimeData>
 
-#include <cstdlib>
 #include <optional>
-
-#include <fcntl.h>
-#include <unistd.h>
-
-// A terminal of our own.
-class Terminal
-{
-public:
-    ~Terminal() { close(); }
-
-    bool open()
-    {
-        m_handle = posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
-        return m_handle >= 0 && grantpt(m_handle) == 0 && unlockpt(m_handle) == 0;
-    }
-    void close()
-    {
-        if (m_handle >= 0)
-            ::close(m_handle);
-        m_handle = -1;
-    }
-    QString name() const { return QFile::decodeName(ptsname(m_handle)); }
-
-private:
-    int m_handle = -1;
-};
 
 class NoFilesTest : public QObject, private ExchangeWindow
 {
