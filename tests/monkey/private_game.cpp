@@ -38,7 +38,7 @@ PrivateGame::PrivateGame(const QString &sampleGame)
         m_failure = m_folder.errorString();
         return;
     }
-    copy(sampleGame, m_folder.path());
+    copy(QDir(sampleGame).absolutePath(), m_folder.path());
     addStrangeFiles();
     const QString user = m_folder.filePath(QStringLiteral("user"));
     for (const char *home : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
