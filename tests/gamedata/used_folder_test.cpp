@@ -1,4 +1,5 @@
 // The folder that file dialogs begin in, as the settings keep it.
+#include "gamedata/game_dir.h"
 #include "gamedata/ini_file.h"
 #include "gamedata/used_folder.h"
 
@@ -20,8 +21,14 @@ private slots:
     void folderOfAChosenFileIsKept();
     void relativeFilesAreKeptByTheirWholeFolder();
     void settingsFileIsNotWrittenAtOnce();
+    void readOnlyGamesFolderIsKeptForTheUser();
+    void folderOfAnotherGameIsNotRecalled();
+    void writableGameKeepsItsOwn();
 
 private:
+    // As the program has them at its start in a game's folder.
+    void useSettings(const QString &game);
+
     QTemporaryDir m_dir;
     std::unique_ptr<_Ini_> m_settings;
 };
@@ -38,15 +45,24 @@ QByteArray storedPath()
 
 } // namespace
 
+void UsedFolderTest::useSettings(const QString &game)
+{
+    setGameRoot(game);
+    m_settings = std::make_unique<_Ini_>((game + "/settings.ini").toStdWString());
+    ini = m_settings.get();
+}
+
 void UsedFolderTest::init()
 {
-    m_settings = std::make_unique<_Ini_>(m_dir.filePath("settings.ini").toStdWString());
-    ini = m_settings.get();
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_dir.filePath("user")));
+    QDir(m_dir.filePath("user")).removeRecursively();
+    useSettings(m_dir.path());
 }
 
 void UsedFolderTest::cleanup()
 {
     ini = nullptr;
+    setGameRoot({});
 }
 
 void UsedFolderTest::noneWasUsedAtFirst()
@@ -97,6 +113,53 @@ void UsedFolderTest::settingsFileIsNotWrittenAtOnce()
     _Ini_ again(m_dir.filePath("settings.ini").toStdWString());
     again.Read();
     QCOMPARE(again.GetStringVal("Campaign Editor", "Path", "none"), "/maps");
+}
+
+// A settings file that isn't there can't be written either, not even by root.
+void UsedFolderTest::readOnlyGamesFolderIsKeptForTheUser()
+{
+    useSettings("/no/such/game");
+    recallUsedFolder();
+    QCOMPARE(storedPath(), QByteArray("none"));
+    rememberFolderOf(QString("/") + QChar(0x451) + QChar(0x436) + "/thaw.e3m");
+    keepUsedFolder();
+
+    useSettings("/no/such/game");
+    m_settings->SetStringVal("Campaign Editor", "Path", "/of/everybody");
+    recallUsedFolder();
+    QCOMPARE(storedPath(), QByteArray(cyrillic));
+}
+
+void UsedFolderTest::folderOfAnotherGameIsNotRecalled()
+{
+    useSettings("/no/such/game");
+    rememberFolderOf("/maps/thaw.e3m");
+    keepUsedFolder();
+    useSettings("/no/other/game");
+    recallUsedFolder();
+    QCOMPARE(storedPath(), QByteArray("none"));
+}
+
+void UsedFolderTest::writableGameKeepsItsOwn()
+{
+    useSettings("/no/such/game");
+    rememberFolderOf("/maps/thaw.e3m");
+    keepUsedFolder();
+
+    useSettings(m_dir.path());
+    setGameRoot("/no/such/game");
+    m_settings->SetStringVal("Campaign Editor", "Path", "/of/everybody");
+    m_settings->Write();
+    QVERIFY(QFile::exists(m_dir.filePath("settings.ini")));
+    recallUsedFolder();
+    QCOMPARE(storedPath(), QByteArray("/of/everybody"));
+    rememberFolderOf("/elsewhere/thaw.e3m");
+    m_settings->Write();
+    keepUsedFolder();
+
+    useSettings("/no/such/game");
+    recallUsedFolder();
+    QCOMPARE(storedPath(), QByteArray("/maps"));
 }
 
 QTEST_APPLESS_MAIN(UsedFolderTest)
