@@ -89,7 +89,7 @@ std::optional<QString> askForGame(const QString &lost)
         const QStringList missing = missingGameFiles(start);
         if (missing.isEmpty())
             return start;
-        warn(nullptr, dialog.windowTitle(),
+        warn(nullptr, GameDialog::tr("Not the Game's Folder"),
              GameDialog::tr("This is not the game's folder:\n%1\n\nIt lacks: %2")
                  .arg(start, missing.join(QStringLiteral(", "))));
     }

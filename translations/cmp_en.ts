@@ -142,6 +142,10 @@
         <translation>Choose</translation>
     </message>
     <message>
+        <source>Not the Game's Folder</source>
+        <translation>Not the Game's Folder</translation>
+    </message>
+    <message>
         <source>This is not the game's folder:
 %1
 

@@ -142,6 +142,10 @@
         <translation>Выбрать</translation>
     </message>
     <message>
+        <source>Not the Game's Folder</source>
+        <translation>Это не папка игры</translation>
+    </message>
+    <message>
         <source>This is not the game's folder:
 %1
 

@@ -7,48 +7,13 @@
 set -euo pipefail
 
 bin=$1
-work=$(mktemp -d)
+# shellcheck source=tests/desktop/virtual_display.sh
+. "$(dirname "$0")/virtual_display.sh"
 cp -R "$2" "$work/game"
 maps=$work/game/Maps
 campaign=$maps/sample.e3c
 export CMPED_GAME_DIR=$work/game XDG_CONFIG_HOME=$work/config XDG_DATA_HOME=$work/data SDL_AUDIODRIVER=dummy LC_ALL=C.UTF-8
 unset QT_QPA_PLATFORM
-
-cleanup() {
-    kill ${editor:-} ${source:-} ${manager:-} ${xvfb:-} 2>/dev/null || true
-    wait 2>/dev/null || true
-    rm -rf "$work"
-}
-trap cleanup EXIT
-
-fail() {
-    echo "FAIL: $*" >&2
-    import -window root "${CMPED_FAILURE_PICTURE:-/dev/null}" 2>/dev/null || true
-    tail -n 20 "$work/log" >&2
-    exit 1
-}
-pass() { echo "PASS: $*"; }
-
-# until_true COMMAND...: tries for up to 30 seconds.
-until_true() {
-    local i
-    for i in $(seq 300); do
-        "$@" >/dev/null 2>&1 && return 0
-        sleep 0.1
-    done
-    return 1
-}
-
-start_display() {
-    Xvfb -noreset -displayfd 3 -screen 0 1024x900x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
-    xvfb=$!
-    until_true grep -q '^[0-9]' "$work/display" || fail "no virtual display"
-    DISPLAY=:$(head -n 1 "$work/display")
-    export DISPLAY
-    until_true xdotool getmouselocation || fail "the virtual display $DISPLAY does not answer"
-    openbox >/dev/null 2>&1 &
-    manager=$!
-}
 
 find_window() { window=$(xdotool search --onlyvisible --name "^$1 - " | head -n 1) && [ -n "$window" ]; }
 title_begins() { [[ $(xdotool getwindowname "$window") == "$1 - "* ]]; }
@@ -185,7 +150,7 @@ sizes_come_and_go() {
 
 closing_writes_settings_and_recent_files() {
     xdotool windowactivate --sync "$window" key alt+F4
-    until_true eval '! kill -0 $editor' || fail "the window did not close"
+    until_true has_ended "$editor" || fail "the window did not close"
     wait "$editor" || fail "the editor ended with exit status $?"
     editor=
     grep -q '^\[Campaign Editor\]' "$work/game/Ravn_settings.ini" || fail "the settings are gone"

@@ -136,7 +136,7 @@ void GameDialogTest::namesWhatAnotherFolderLacks()
     const tiny::Game game;
     const NextDialog wrong(enter(other));
     const NextDialog answer(
-        boxAnswer({"Folder of the Game",
+        boxAnswer({"Not the Game's Folder",
                    "This is not the game's folder:\n" + other + "\n\nIt lacks: " + lacks,
                    QMessageBox::Warning, QMessageBox::Ok, QMessageBox::Ok}));
     QString again;

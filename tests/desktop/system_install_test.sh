@@ -1,0 +1,153 @@
+#!/usr/bin/env bash
+# Installs the editor for a whole system, into a folder that stands for the root, and uses it from
+# there as a desktop does: entry, file types, metainfo, icons, thumbnails, translations.
+#
+# Usage: system_install_test.sh CMAKE BUILD SAMPLE_GAME
+set -euo pipefail
+
+cmake=$1
+build=$2
+# shellcheck source=tests/desktop/virtual_display.sh
+. "$(dirname "$0")/virtual_display.sh"
+root=$work/root
+usr=$root/usr
+game=$work/game
+cp -R "$3" "$game"
+campaign=$game/Maps/sample.e3c
+campaign_type=application/x-eldmark-campaign
+map_type=application/x-eldmark-map
+unset CMPED_GAME_DIR LD_LIBRARY_PATH
+export HOME=$work XDG_CONFIG_HOME=$work/config XDG_DATA_HOME=$work/data XDG_RUNTIME_DIR=$work \
+    XDG_DATA_DIRS=$usr/share:/usr/share QT_QPA_PLATFORM=offscreen SDL_AUDIODRIVER=dummy LC_ALL=C.UTF-8
+export PATH=$usr/bin:$PATH
+
+files() { (cd "$root" && find . -type f -o -type l | sort); }
+
+install_for_the_system() {
+    DESTDIR=$root "$cmake" --install "$build" --prefix /usr --component system >"$work/log" ||
+        fail "can't be installed"
+    files >"$work/installed"
+    local wanted
+    for wanted in bin/cmped bin/cmped-cli share/cmped/cmp_en.qm share/cmped/cmp_ru.qm \
+        share/applications/cmped.desktop share/mime/packages/cmped.xml \
+        share/metainfo/cmped.metainfo.xml share/thumbnailers/cmped.thumbnailer \
+        share/doc/cmped/manual.md share/doc/cmped/manual/en/main-window.png \
+        share/doc/cmped/copyright share/doc/cmped/changelog.gz; do
+        [ -s "$usr/$wanted" ] || fail "$wanted is missing"
+    done
+    [ -n "$(find "$usr/lib" -path '*/cmped/libcmped.so')" ] || fail "the library is missing"
+    [ ! -e "$usr/cmped" ] || fail "a game's folder was installed as well"
+    pass "everything is where a system has it"
+}
+
+files_for_desktops_are_valid() {
+    desktop-file-validate "$usr/share/applications/cmped.desktop" >"$work/log" 2>&1 ||
+        fail "the desktop entry is not valid"
+    [ ! -s "$work/log" ] || fail "the desktop entry could be better"
+    appstreamcli validate --no-net "$usr/share/metainfo/cmped.metainfo.xml" >"$work/log" ||
+        fail "the metainfo is not valid"
+    update-mime-database "$usr/share/mime" >"$work/log" 2>&1 || fail "the types are not valid"
+    [ ! -s "$work/log" ] || fail "the types could be better"
+    update-desktop-database "$usr/share/applications"
+    pass "desktop entry, metainfo and file types are valid"
+}
+
+one_version_is_told_everywhere() {
+    local version
+    version=$(cmped --version | sed 's/^cmped //')
+    [ -n "$version" ] || fail "no version"
+    zcat "$usr/share/doc/cmped/changelog.gz" | head -n 1 | grep -qF "cmped ($version) " ||
+        fail "the newest entry of the change log is of another version"
+    grep -m 1 '<release ' "$usr/share/metainfo/cmped.metainfo.xml" | grep -qF "\"$version\"" ||
+        fail "the newest release of the metainfo is another one"
+    pass "one version is told everywhere"
+}
+
+is_of_type() {
+    local found
+    found=$(XDG_CURRENT_DESKTOP=GNOME xdg-mime query filetype "$1")
+    [ "$found" = "$2" ] || fail "$1 is of type $found, not $2"
+}
+
+files_have_their_types() {
+    local map
+    map=$work/map.e3m
+    gzip -c /dev/null >"$map"
+    cp "$campaign" "$work/UPPER.E3C"
+    cp "$campaign" "$work/campaign.gz"
+    cp "$campaign" "$work/nameless"
+    is_of_type "$campaign" $campaign_type
+    is_of_type "$work/UPPER.E3C" $campaign_type
+    is_of_type "$map" $map_type
+    is_of_type "$work/campaign.gz" application/gzip
+    is_of_type "$work/nameless" application/gzip
+    grep -qx "$campaign_type application/gzip" "$usr/share/mime/subclasses" &&
+        grep -qx "$map_type application/gzip" "$usr/share/mime/subclasses" ||
+        fail "the types are no packed files"
+    [ "$(xdg-mime query default $campaign_type)" = cmped.desktop ] ||
+        fail "campaigns are not opened by the editor"
+    [ -z "$(xdg-mime query default $map_type)" ] || fail "maps are opened by an editor"
+    pass "campaigns and maps have their types, and campaigns their editor"
+}
+
+icons_are_there() {
+    local icon size file
+    for icon in apps/cmped mimetypes/${campaign_type/\//-} mimetypes/${map_type/\//-}; do
+        for size in 16 22 24 32 48 64 96 128 256 512; do
+            file=$usr/share/icons/hicolor/${size}x$size/$icon.png
+            [ "$(identify -format '%wx%h' "$file")" = "${size}x$size" ] || fail "$file is not $size large"
+            [ "$(identify -format '%k' "$file")" -gt 20 ] || fail "$file is empty"
+        done
+        [ -s "$usr/share/icons/hicolor/scalable/$icon.svg" ] || fail "$icon can't be scaled"
+    done
+    pass "icons are there in all sizes"
+}
+
+# The game of this one has no translations of the editor: the system's are taken.
+the_editor_starts() {
+    local status=0
+    rm "$game/Ravn_Data/"*.qm
+    printf '[Global Settings]\nLanguage=1\n' >"$game/Ravn_settings.ini"
+    cmped --game "$game" "$campaign" 2>"$work/log" &
+    editor=$!
+    until_true is_up "$editor" || fail "the editor does not come up"
+    grep -q "$usr/lib.*/cmped/libcmped\.so" "/proc/$editor/maps" || fail "another library is used"
+    grep -q "$usr/share/cmped/cmp_ru\.qm" "/proc/$editor/maps" || fail "the editor speaks no Russian"
+    kill -TERM "$editor"
+    wait "$editor" || status=$?
+    editor=
+    [ $status = 0 ] || fail "the editor ends with status $status"
+    pass "the editor starts and finds its library and its translations"
+}
+
+# As file managers do: the line of the thumbnailer with its letters replaced.
+a_thumbnail_is_drawn() {
+    local line
+    mkdir -p "$XDG_CONFIG_HOME/cmped"
+    printf '[game]\nfolder=%s\n' "$game" >"$XDG_CONFIG_HOME/cmped/cmped.conf"
+    line=$(sed -n 's/^Exec=//p' "$usr/share/thumbnailers/cmped.thumbnailer")
+    : >"$work/thumbnail.png"
+    line=${line/\%s/128}
+    line=${line/\%i/$campaign}
+    sh -c "${line/\%o/$work/thumbnail.png}" 2>"$work/log" || fail "no thumbnail: $line"
+    [ "$(identify -format '%m %wx%h' "$work/thumbnail.png")" = "PNG 97x128" ] ||
+        fail "the thumbnail has another size"
+    grep -qx "MimeType=$campaign_type;" "$usr/share/thumbnailers/cmped.thumbnailer" ||
+        fail "the thumbnailer is for other files"
+    pass "a thumbnail is drawn"
+}
+
+nothing_else_was_written() {
+    files | grep -vE '/(mime/|applications/mimeinfo.cache)' >"$work/now"
+    grep -vE '/mime/' "$work/installed" | diff - "$work/now" >"$work/log" || fail "files came or went"
+    pass "using it writes nothing into the system"
+}
+
+install_for_the_system
+files_for_desktops_are_valid
+one_version_is_told_everywhere
+files_have_their_types
+icons_are_there
+the_editor_starts
+a_thumbnail_is_drawn
+nothing_else_was_written
