@@ -5,7 +5,6 @@
 #include "gamedata/image_cache.h"
 #include "gamedata/ini_file.h"
 #include "gamedata/runtime/dat_file.h"
-#include "gamedata/used_folder.h"
 #include "shell/dialog_look.h"
 #include "shell/editor_resources.h"
 #include "shell/exit_signals.h"
@@ -13,6 +12,7 @@
 #include "shell/main_window.h"
 #include "shell/message_reporter.h"
 #include "shell/mss_info.h"
+#include "shell/plain_message_boxes.h"
 #include "shell/startup.h"
 
 #include <QApplication>
@@ -59,6 +59,7 @@ void createApplication(Session &session)
 {
     session.application = std::make_unique<QApplication>(session.argc, session.argv);
     QApplication::setWindowIcon(applicationIcon());
+    session.application->installEventFilter(new PlainMessageBoxes(session.application.get()));
     reportWithMessageBoxes();
 }
 
@@ -98,7 +99,6 @@ void createImageCache(Session &)
 void loadSettings(Session &)
 {
     ini = loadRavnIni();
-    recallUsedFolder();
 }
 
 void loadTableFile(Session &)
@@ -164,7 +164,6 @@ void runEventLoop(Session &session)
 void writeSettings(Session &)
 {
     ini->Write();
-    keepUsedFolder();
 }
 
 void freeTableFile(Session &)
