@@ -55,8 +55,12 @@ void CampaignRegionItem::paint(QPainter *painter, const QStyleOptionGraphicsItem
 // The base class is passed by: the selection is isSelected alone, not Qt's own.
 void CampaignRegionItem::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
-    if (event->button() != Qt::LeftButton && event->button() != Qt::RightButton)
-        return;
+    if (event->button() == Qt::LeftButton || event->button() == Qt::RightButton)
+        select();
+}
+
+void CampaignRegionItem::select()
+{
     EditorData::info.region = regionIndex;
     EditorData::info.currentItem = this;
     if (isSelected)

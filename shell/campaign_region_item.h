@@ -1,4 +1,4 @@
-// One region of the campaign map: its picture, and being selected by the mouse.
+// One region of the campaign map: its picture, and being selected.
 //
 // Owned by the scene and destroyed when the window rebuilds it.
 #pragma once
@@ -26,6 +26,8 @@ public:
     void refreshImage();
     // Follows the scenario's colour and map after an edit.
     void updateImage(ScenarioData *scenario);
+    // Makes this the selected region, and the only one.
+    void select();
 
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 

@@ -9,6 +9,7 @@
 #include "shell/drag_and_drop_handler.h"
 #include "shell/elided_label.h"
 #include "shell/plain_tool_tips.h"
+#include "shell/region_keys.h"
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
@@ -114,6 +115,7 @@ void MainWindow::initUI()
     mapBrowser = new MapBrowser(ui->stackedWidget, hintLabel);
     ui->stackedWidget->addWidget(mapBrowser);
     ui->stackedWidget->setCurrentWidget(mapBrowser);
+    new RegionKeys(mapBrowser->getGraphicsView()); // which the view owns
     hintLabel->setText(textOf(EditorData::editorCmdText, hintRow));
     regionLabel->setText(QStringLiteral("Southport"));
     fillStatusBar();

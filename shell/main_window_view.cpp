@@ -93,6 +93,8 @@ void MainWindow::updateRegionLabel()
     const auto &regions = EditorData::campaignMap(campaignId).regions;
     const bool named = campaign.hasMap && currentRegion < quint32(regions.size());
     regionLabel->setText(named ? regions[int(currentRegion)].name : QString());
+    // A screen reader tells it when it changes.
+    mapBrowser->getGraphicsView()->setAccessibleDescription(regionLabel->text());
 }
 
 void MainWindow::resetWindowTitle()
