@@ -8,6 +8,7 @@
 #include "shell/choice_box.h"
 #include "shell/dialog_look.h"
 #include "shell/mss_info.h"
+#include "shell/readable_icon.h"
 #include "shell/shown_text.h"
 #include "ui_EditCampaign.h"
 
@@ -171,7 +172,7 @@ void EditCampaign::playPauseMusic()
 void EditCampaign::setMusicBtn(bool playing)
 {
     const QStyle::StandardPixmap icon = playing ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay;
-    ui->playMusicBtn->setIcon(style()->standardIcon(icon));
+    ui->playMusicBtn->setIcon(readableIcon(style()->standardIcon(icon)));
 }
 
 void EditCampaign::nameEditChanged()

@@ -5,6 +5,7 @@
 #include "gamedata/report.h"
 #include "scenario/scenario_prologue.h"
 #include "shell/mss_info.h"
+#include "shell/readable_icon.h"
 #include "ui_ScenarioPrologue.h"
 
 #include <QDebug>
@@ -120,7 +121,7 @@ void ScenarioPrologue::playPauseMusic()
 void ScenarioPrologue::setMusicBtn(bool playing)
 {
     const auto icon = playing ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay;
-    ui->playMusicBtn->setIcon(style()->standardIcon(icon));
+    ui->playMusicBtn->setIcon(readableIcon(style()->standardIcon(icon)));
 }
 
 void ScenarioPrologue::pausePlayer()

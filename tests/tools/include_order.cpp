@@ -22,8 +22,9 @@ constexpr RoomRow kRooms[] = {
     {"document", "document/", "gamedata", false},
     {"leaves",
      "shell/choice_box. shell/custom_widgets. shell/dialog_look. shell/drag_and_drop_handler. "
-     "shell/elided_label. shell/plain_tool_tips. shell/right_click_filter. shell/shown_text. "
-     "shell/wait_cursor. shell/warning_box.",
+     "shell/elided_label. shell/plain_message_boxes. shell/plain_tool_tips. "
+     "shell/readable_icon. shell/right_click_filter. shell/shown_text. shell/wait_cursor. "
+     "shell/warning_box.",
      ""},
     {"sound", "shell/mss_info. shell/sound_library. shell/tune_file.", "gamedata", false},
     {"map view", "shell/campaign_map_view.", "gamedata"},
