@@ -6,6 +6,7 @@
 #include "document/prerequisites.h"
 #include "gamedata/editor_data.h"
 #include "shell/dialog_look.h"
+#include "shell/wait_cursor.h"
 #include "ui_ConvertCampaign.h"
 
 #include <QMessageBox>
@@ -128,6 +129,7 @@ void ConvertCampaign::saveInfo()
     const unsigned int id = item->data(idRole).toUInt();
     if (!isConfirmed(id))
         return;
+    const WaitCursor cursor;
     EditorData::info.modified = true;
     if (campaign->hasMap)
         convertToBackground(*campaign, id);

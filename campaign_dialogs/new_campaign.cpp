@@ -55,10 +55,17 @@ void NewCampaign::loadBgImage(const QString &name)
     putBackgroundToLabel(ui->bgPixmapHolder, name, isCampaignWithMap(), getSelectedItemId());
 }
 
+// For those who see its label, and for screen readers.
+void NewCampaign::nameList(const QString &name)
+{
+    ui->label->setText(name);
+    ui->listWidget->setAccessibleName(name);
+}
+
 void NewCampaign::setCampaignMapList()
 {
     ui->listWidget->clear();
-    ui->label->setText(tr("Campaign map"));
+    nameList(tr("Campaign map"));
     for (const auto &[number, map] : EditorData::campaignInfo) {
         if (!isOffered(map))
             continue;
@@ -72,7 +79,7 @@ void NewCampaign::setCampaignMapList()
 void NewCampaign::setCampaignBackgroundList()
 {
     ui->listWidget->clear();
-    ui->label->setText(tr("Campaign background"));
+    nameList(tr("Campaign background"));
     for (const auto &[number, name] : EditorData::backgrounds) {
         auto *item = new QListWidgetItem(name, ui->listWidget);
         item->setData(idRole, number);

@@ -30,5 +30,7 @@ private slots:
     void clickOnListboxItem(QListWidgetItem *current, QListWidgetItem *previous);
 
 private:
+    void nameList(const QString &name);
+
     const std::unique_ptr<Ui_newcampaign> ui;
 };

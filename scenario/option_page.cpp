@@ -45,6 +45,7 @@ void OptionPage::setUpTable(QTableWidget *table, QPushButton *add, QPushButton *
     connect(edit, &QPushButton::pressed, this, &OptionPage::editItem);
     connect(remove, &QPushButton::pressed, this, &OptionPage::deleteItem);
     connect(table, &QTableWidget::cellClicked, this, &OptionPage::itemChanged);
+    connect(table, &QTableWidget::itemSelectionChanged, this, &OptionPage::selectionChanged);
     connect(table, &QTableWidget::cellDoubleClicked, this, &OptionPage::itemDoubleclicked);
 }
 
@@ -146,6 +147,14 @@ void OptionPage::deleteItem()
         m_remove->setEnabled(false);
         m_edit->setEnabled(false);
     }
+}
+
+// The keyboard's way to what a click does. What the program itself selects, such as the row behind
+// one that goes, changes nothing.
+void OptionPage::selectionChanged()
+{
+    if (m_table->hasFocus() && !m_table->selectedItems().isEmpty())
+        itemChanged(m_table->currentRow(), m_table->currentColumn());
 }
 
 void OptionPage::itemChanged(int, int)

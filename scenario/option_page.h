@@ -77,6 +77,7 @@ protected slots:
 private slots:
     void editItem();
     void itemChanged(int row, int column);
+    void selectionChanged();
     void itemDoubleclicked(int row, int column);
 
 private:

@@ -6,6 +6,7 @@
 #include "scenario/scenario_prologue.h"
 #include "scenario/scenario_start_options.h"
 #include "shell/dialog_look.h"
+#include "shell/readable_icon.h"
 #include "shell/shown_text.h"
 #include "ui_ScenarioInfo.h"
 
@@ -35,6 +36,8 @@ ScenarioInfo::ScenarioInfo(QWidget *parent, CampaignData *document, unsigned int
     loadCurrentScenario();
     for (QWidget *button : {ui->addBtn, ui->deleteBtn, ui->deleteAllBtn})
         button->setEnabled(!campaign.hasMap);
+    for (QPushButton *arrow : {ui->upBtn, ui->downBtn})
+        arrow->setIcon(readableIcon(arrow->icon()));
     ui->horizontalLayout->setStretch(0, listStretch);
     ui->horizontalLayout->setStretch(1, tabsStretch);
     updateItemSelection();
@@ -71,6 +74,9 @@ void ScenarioInfo::createTabs()
     ui->tabWidget->addTab(crossover, tr("Crossover Options"));
     ui->tabWidget->addTab(startOptions, tr("Starting Options"));
     ui->tabWidget->setCurrentWidget(general);
+    // A screen reader tells a control's page, by which two of one name are told apart.
+    for (int tab = 0; tab < ui->tabWidget->count(); ++tab)
+        ui->tabWidget->widget(tab)->setAccessibleName(ui->tabWidget->tabText(tab));
     putButtonsLast();
 }
 

@@ -79,6 +79,7 @@ void ScenarioPrologue::initInfo(ScenarioData *newScenario, bool isPrologue, unsi
     prologuePage = isPrologue;
     index = std::min(ix, storyCount - 1);
     ui->hasPrologueCheckbox->setText(prologuePage ? tr("Has prologue") : tr("Has epilogue"));
+    nameNumbers();
     uncheckNumbers();
     if (resetButtons)
         resetIxButtons();

@@ -79,6 +79,7 @@ private:
     void initSlotsAndSignals();
     std::vector<QSignalBlocker> blockControls() const;
     void uncheckNumbers();
+    void nameNumbers();
     void loadStory();
     bool storeStory(std::shared_ptr<CmpPrologue> &story, bool onShow);
     bool storeMusic(quint8 &musicIndex) const;

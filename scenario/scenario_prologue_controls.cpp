@@ -25,6 +25,14 @@ void ScenarioPrologue::uncheckNumbers()
         uncheck(button);
 }
 
+// A number alone tells a screen reader's user little.
+void ScenarioPrologue::nameNumbers()
+{
+    const QString name = prologuePage ? tr("Prologue %1") : tr("Epilogue %1");
+    for (QPushButton *button : {ui->btn1, ui->btn2, ui->btn3})
+        button->setAccessibleName(name.arg(button->text()));
+}
+
 void ScenarioPrologue::initIxButtons(unsigned int count)
 {
     if (count <= 1)

@@ -1,7 +1,9 @@
 #include "shell/dialog_look.h"
 
+#include <QAbstractItemView>
 #include <QDialog>
 #include <QFontDatabase>
+#include <QLabel>
 #include <QLayout>
 
 namespace {
@@ -24,6 +26,16 @@ QSize roomFor(const QDialog *dialog)
     return room;
 }
 
+// What a screen reader calls a list: Qt tells it a label's text for all controls but these.
+void nameLists(const QDialog *dialog)
+{
+    const auto labels = dialog->findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        if (auto *list = qobject_cast<QAbstractItemView *>(label->buddy()))
+            list->setAccessibleName(label->text());
+    }
+}
+
 } // namespace
 
 QFont editorFont(const QString &family)
@@ -40,6 +52,7 @@ void fixDialog(QDialog *dialog)
     if (dialog->testAttribute(Qt::WA_SetFont) && !isInstalled(dialog->font().family()))
         dialog->setFont(editorFont(dialog->font().family()));
     dialog->setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    nameLists(dialog);
     dialog->ensurePolished();
     dialog->setFixedSize(roomFor(dialog));
 }

@@ -10,6 +10,6 @@ class QDialog;
 QFont editorFont(const QString &family = QStringLiteral("MS Shell Dlg"));
 
 // To be called once the form is set up: gives the dialog the interface's font where its form
-// names one that is missing, takes the help button off its title bar and fixes its size: the
-// form's, or more where the texts need it.
+// names one that is missing, takes the help button off its title bar, calls its lists by their
+// labels and fixes its size: the form's, or more where the texts need it.
 void fixDialog(QDialog *dialog);

@@ -11,6 +11,10 @@
         <source>Version Ravn</source>
         <translation>Version Ravn</translation>
     </message>
+    <message>
+        <source>Icon of the editor</source>
+        <translation>Icon of the editor</translation>
+    </message>
 </context>
 <context>
     <name>AskDeleteAll</name>
@@ -73,6 +77,10 @@
         <source>Do you really want to convert the campaign to different type?</source>
         <translation>Do you really want to convert the campaign to different type?</translation>
     </message>
+    <message>
+        <source>Preview</source>
+        <translation>Preview</translation>
+    </message>
 </context>
 <context>
     <name>EditCampaign</name>
@@ -119,6 +127,10 @@
     <message>
         <source>Do you really want to change the background?</source>
         <translation>Do you really want to change the background?</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Preview</translation>
     </message>
 </context>
 <context>
@@ -177,6 +189,10 @@ It lacks: %2</translation>
     <message>
         <source>Remove</source>
         <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Chosen hero crossovers</source>
+        <translation>Chosen hero crossovers</translation>
     </message>
 </context>
 <context>
@@ -384,6 +400,13 @@ Ravn_settings.ini must be in Eldmark root folder.</translation>
     </message>
 </context>
 <context>
+    <name>MapBrowser</name>
+    <message>
+        <source>Campaign map</source>
+        <translation>Campaign map</translation>
+    </message>
+</context>
+<context>
     <name>MyQGraphicsView</name>
     <message>
         <source>Properties...</source>
@@ -534,6 +557,22 @@ Ravn_settings.ini must be in Eldmark root folder.</translation>
         <source>None</source>
         <translation>None</translation>
     </message>
+    <message>
+        <source>All creature types</source>
+        <translation>All creature types</translation>
+    </message>
+    <message>
+        <source>None of the creature types</source>
+        <translation>None of the creature types</translation>
+    </message>
+    <message>
+        <source>All crossover artifacts</source>
+        <translation>All crossover artifacts</translation>
+    </message>
+    <message>
+        <source>None of the crossover artifacts</source>
+        <translation>None of the crossover artifacts</translation>
+    </message>
 </context>
 <context>
     <name>ScenarioGeneral</name>
@@ -616,6 +655,14 @@ Ravn_settings.ini must be in Eldmark root folder.</translation>
         <source>Starting Options</source>
         <translation>Starting Options</translation>
     </message>
+    <message>
+        <source>Move scenario up</source>
+        <translation>Move scenario up</translation>
+    </message>
+    <message>
+        <source>Move scenario down</source>
+        <translation>Move scenario down</translation>
+    </message>
 </context>
 <context>
     <name>ScenarioPrologue</name>
@@ -642,6 +689,22 @@ Ravn_settings.ini must be in Eldmark root folder.</translation>
     <message>
         <source>Message:</source>
         <translation>Message:</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Picture of the video</translation>
+    </message>
+    <message>
+        <source>Play or pause the music</source>
+        <translation>Play or pause the music</translation>
+    </message>
+    <message>
+        <source>Prologue %1</source>
+        <translation>Prologue %1</translation>
+    </message>
+    <message>
+        <source>Epilogue %1</source>
+        <translation>Epilogue %1</translation>
     </message>
 </context>
 <context>
@@ -685,6 +748,10 @@ Ravn_settings.ini must be in Eldmark root folder.</translation>
         <source>Remove</source>
         <translation>Remove</translation>
     </message>
+    <message>
+        <source>Chosen starting bonuses</source>
+        <translation>Chosen starting bonuses</translation>
+    </message>
 </context>
 <context>
     <name>StartingHeroDialog</name>
@@ -722,6 +789,10 @@ Ravn_settings.ini must be in Eldmark root folder.</translation>
     <message>
         <source>Remove</source>
         <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Chosen starting heroes</source>
+        <translation>Chosen starting heroes</translation>
     </message>
 </context>
 <context>
@@ -881,6 +952,10 @@ Ravn_settings.ini must be in Eldmark root folder.</translation>
     <message>
         <source>image</source>
         <translation>image</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Preview</translation>
     </message>
 </context>
 <context>

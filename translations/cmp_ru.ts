@@ -11,6 +11,10 @@
         <source>Version Ravn</source>
         <translation>Версия Ravn</translation>
     </message>
+    <message>
+        <source>Icon of the editor</source>
+        <translation>Значок редактора</translation>
+    </message>
 </context>
 <context>
     <name>AskDeleteAll</name>
@@ -73,6 +77,10 @@
         <source>Do you really want to convert the campaign to different type?</source>
         <translation>Действительно преобразовать кампанию в другой тип?</translation>
     </message>
+    <message>
+        <source>Preview</source>
+        <translation>Предварительный просмотр</translation>
+    </message>
 </context>
 <context>
     <name>EditCampaign</name>
@@ -119,6 +127,10 @@
     <message>
         <source>Do you really want to change the background?</source>
         <translation>Действительно сменить фон?</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Предварительный просмотр</translation>
     </message>
 </context>
 <context>
@@ -177,6 +189,10 @@ It lacks: %2</source>
     <message>
         <source>Remove</source>
         <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Chosen hero crossovers</source>
+        <translation>Выбранные переходы героев</translation>
     </message>
 </context>
 <context>
@@ -384,6 +400,13 @@ Ravn_settings.ini must be in Eldmark root folder.</source>
     </message>
 </context>
 <context>
+    <name>MapBrowser</name>
+    <message>
+        <source>Campaign map</source>
+        <translation>Карта кампании</translation>
+    </message>
+</context>
+<context>
     <name>MyQGraphicsView</name>
     <message>
         <source>Properties...</source>
@@ -534,6 +557,22 @@ Ravn_settings.ini must be in Eldmark root folder.</source>
         <source>None</source>
         <translation>Ни одного</translation>
     </message>
+    <message>
+        <source>All creature types</source>
+        <translation>Все типы существ</translation>
+    </message>
+    <message>
+        <source>None of the creature types</source>
+        <translation>Ни один тип существ</translation>
+    </message>
+    <message>
+        <source>All crossover artifacts</source>
+        <translation>Все переносимые артефакты</translation>
+    </message>
+    <message>
+        <source>None of the crossover artifacts</source>
+        <translation>Ни один переносимый артефакт</translation>
+    </message>
 </context>
 <context>
     <name>ScenarioGeneral</name>
@@ -616,6 +655,14 @@ Ravn_settings.ini must be in Eldmark root folder.</source>
         <source>Starting Options</source>
         <translation>Начальные условия</translation>
     </message>
+    <message>
+        <source>Move scenario up</source>
+        <translation>Переместить сценарий выше</translation>
+    </message>
+    <message>
+        <source>Move scenario down</source>
+        <translation>Переместить сценарий ниже</translation>
+    </message>
 </context>
 <context>
     <name>ScenarioPrologue</name>
@@ -642,6 +689,22 @@ Ravn_settings.ini must be in Eldmark root folder.</source>
     <message>
         <source>Message:</source>
         <translation>Сообщение:</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Кадр видео</translation>
+    </message>
+    <message>
+        <source>Play or pause the music</source>
+        <translation>Воспроизвести или приостановить музыку</translation>
+    </message>
+    <message>
+        <source>Prologue %1</source>
+        <translation>Пролог %1</translation>
+    </message>
+    <message>
+        <source>Epilogue %1</source>
+        <translation>Эпилог %1</translation>
     </message>
 </context>
 <context>
@@ -685,6 +748,10 @@ Ravn_settings.ini must be in Eldmark root folder.</source>
         <source>Remove</source>
         <translation>Удалить</translation>
     </message>
+    <message>
+        <source>Chosen starting bonuses</source>
+        <translation>Выбранные начальные бонусы</translation>
+    </message>
 </context>
 <context>
     <name>StartingHeroDialog</name>
@@ -722,6 +789,10 @@ Ravn_settings.ini must be in Eldmark root folder.</source>
     <message>
         <source>Remove</source>
         <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Chosen starting heroes</source>
+        <translation>Выбранные начальные герои</translation>
     </message>
 </context>
 <context>
@@ -881,6 +952,10 @@ Ravn_settings.ini must be in Eldmark root folder.</source>
     <message>
         <source>image</source>
         <translation>изображение</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Предварительный просмотр</translation>
     </message>
 </context>
 <context>
