@@ -14,9 +14,14 @@ ExitStatus readCampaignFile(const QString &path, CampaignData &campaign)
 {
     QFile file(path);
     if (const std::optional<QString> failure = openToRead(file))
-        return failed(mainWindowText("Cannot read file %1:\n%2.").arg(path, *failure));
+        return cannotRead(path, *failure);
     const std::optional<QString> error = campaign.readCampaign(&file);
     return error ? failed(*error) : exitDone;
+}
+
+ExitStatus saved(const QString &path, const SaveResult &result)
+{
+    return result.ok ? exitDone : cannotWrite(path, result.error);
 }
 
 ExitStatus runDump(const QStringList &arguments)
@@ -37,6 +42,5 @@ ExitStatus runResave(const QStringList &arguments)
     CampaignData campaign;
     if (const ExitStatus status = readCampaignFile(arguments[0], campaign))
         return status;
-    const SaveResult result = campaign.saveTo(arguments[1]);
-    return result.ok ? exitDone : cannotWrite(arguments[1], result.error);
+    return saved(arguments[1], campaign.saveTo(arguments[1]));
 }

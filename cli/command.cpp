@@ -111,6 +111,11 @@ ExitStatus failed(const QString &text)
     return exitFailed;
 }
 
+ExitStatus cannotRead(const QString &path, const QString &reason)
+{
+    return failed(mainWindowText("Cannot read file %1:\n%2.").arg(path, reason));
+}
+
 ExitStatus cannotWrite(const QString &path, const QString &reason)
 {
     return failed(mainWindowText("Cannot write file %1:\n%2.").arg(path, reason));

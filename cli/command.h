@@ -80,5 +80,8 @@ ExitStatus wrongUsage(const QString &text);
 // Says on standard error why the command failed, as the editor would in a message box.
 ExitStatus failed(const QString &text);
 
+// An input file that can't be read.
+ExitStatus cannotRead(const QString &path, const QString &reason);
+
 // An output file or standard output that can't be written.
 ExitStatus cannotWrite(const QString &path, const QString &reason);

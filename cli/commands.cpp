@@ -5,6 +5,7 @@
 #include "cli/exchange_commands.h"
 #include "cli/picture_commands.h"
 #include "cli/table_commands.h"
+#include "cli/text_commands.h"
 
 #include <algorithm>
 #include <array>
@@ -25,11 +26,15 @@ constexpr char resaveMore[] = R"(Reads the campaign FILE and writes it to OUT in
 )";
 
 constexpr char exportTextsMore[] =
-    R"(Writes the texts of the campaign FILE to OUT, line by line as the editor does.
+    R"(Writes the texts of the campaign FILE to OUT for translators. Without --format
+the ending of OUT decides; what is none of these is txt, the editor's own
+lines.
 )";
 
 constexpr char importTextsMore[] =
-    R"(Takes the file TEXTS over into the campaign FILE and writes that to OUT.
+    R"(Writes the campaign FILE to OUT with the translations in TEXTS. Without --format
+the ending of TEXTS decides; what is none of these is txt, the editor's own
+lines. Texts that weren't taken are told, a line each, and stay as they were.
 )";
 
 constexpr char exportMapsMore[] =
@@ -62,13 +67,23 @@ constexpr char regionMore[] =
 for one without a map; COLOUR goes from 0 to 7.
 )";
 
+constexpr CommandOption formatOption{"format", "NAME", "po, xliff (.xlf), csv or txt"};
+
 constexpr std::array<Command, 11> commands{{
     {"dump", "FILE", "prints a campaign as JSON", runDump, dumpMore},
     {"resave", "FILE OUT", "writes it in the newest format", runResave, resaveMore},
-    {"export-texts", "FILE OUT", "writes its texts for translators", runExportTexts,
-     exportTextsMore},
-    {"import-texts", "FILE TEXTS OUT", "writes it with translated texts", runImportTexts,
-     importTextsMore},
+    {"export-texts",
+     "FILE OUT",
+     "writes its texts for translators",
+     runExportTexts,
+     exportTextsMore,
+     {formatOption}},
+    {"import-texts",
+     "FILE TEXTS OUT",
+     "writes it with translated texts",
+     runImportTexts,
+     importTextsMore,
+     {formatOption, {"force", nullptr, "takes translations of texts that have changed since"}}},
     {"export-maps", "FILE DIR", "writes its maps into a folder", runExportMaps, exportMapsMore},
     {"refresh-maps", "FILE DIR OUT", "writes it with the maps of a folder", runRefreshMaps,
      refreshMapsMore},

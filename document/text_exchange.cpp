@@ -19,55 +19,36 @@
 #include "document/campaign_data.h"
 #include "document/scenario_names.h"
 #include "document/text_bytes.h"
-#include "gamedata/limits.h"
+#include "document/text_catalogue.h"
+#include "document/text_file.h"
 
 #include <QFile>
 #include <QTextCodec>
 #include <QTextStream>
 
 #include <algorithm>
+#include <array>
+#include <vector>
 
 namespace {
 
-constexpr char nameCaption[] = "Name:";
-constexpr char descriptionCaption[] = "Description:";
-constexpr char regionTextCaption[] = "Right-click text:";
-constexpr char prologueCaption[] = "Prologue:";
-constexpr char epilogueCaption[] = "Epilogue:";
+// By TextKind.
+constexpr std::array<const char *, 5> captions{
+    "Name:", "Description:", "Right-click text:", "Prologue:", "Epilogue:"};
 constexpr char lineEnd[] = "\r\n";
 
 constexpr qint64 linesBehindFirst = 5;
 constexpr qint64 linesOfScenario = 6;
 constexpr qint64 linesOfStory = 3;
 
-constexpr int pieceSize = 256 * 1024;
-
-void writeValue(QTextStream &stream, const char *caption, QString text)
+const char *captionOf(TextKind kind)
 {
-    stream << caption << lineEnd;
-    WriteText(stream, text);
-    stream << lineEnd << lineEnd;
+    return captions[std::size_t(kind)];
 }
 
-void writeStories(QTextStream &stream, const char *caption, const ScenarioData::Prologues &stories)
+bool isCampaigns(TextKind kind)
 {
-    for (const auto &story : stories) {
-        if (story)
-            writeValue(stream, caption, story->text);
-    }
-}
-
-// Null if it can't be read to its end, or is larger than any file of texts.
-QByteArray readWhole(QFile &file)
-{
-    QByteArray bytes("");
-    while (bytes.size() <= limits::textFileBytes && file.size() <= limits::textFileBytes) {
-        const QByteArray piece = file.read(pieceSize);
-        if (piece.isEmpty())
-            return file.error() == QFile::NoError ? bytes : QByteArray();
-        bytes += piece;
-    }
-    return {};
+    return kind == TextKind::CampaignName || kind == TextKind::CampaignDescription;
 }
 
 // The lines of a file, each decoded when it is asked for.
@@ -132,34 +113,14 @@ bool isName(const QString &line, const QString &name)
     return !line.isEmpty() && (line == name || line == textFromBytes(bytesFromText(name)));
 }
 
-bool readStories(TextLines &lines, const char *caption, ScenarioData::Prologues &stories)
-{
-    for (auto &story : stories) {
-        if (!story)
-            continue;
-        if (!lines.nextIs(caption))
-            return false;
-        const auto read = std::make_shared<CmpPrologue>(*story);
-        read->text = lines.next();
-        story = read;
-        lines.next();
-    }
-    return true;
-}
-
-bool readScenario(TextLines &lines, const QString &name, ScenarioData &scenario,
-                  QString &regionText)
+// The empty line, the scenario's name and the empty line in front of its texts.
+bool readHeading(TextLines &lines, const QString &name)
 {
     lines.next();
     if (!isName(lines.next(), name))
         return false;
     lines.next();
-    if (!lines.nextIs(regionTextCaption))
-        return false;
-    regionText = ReadText(lines.next());
-    lines.next();
-    return readStories(lines, prologueCaption, scenario.prologues) &&
-           readStories(lines, epilogueCaption, scenario.epilogues);
+    return true;
 }
 
 } // namespace
@@ -178,19 +139,17 @@ QByteArray exportedTexts(CampaignData &campaign)
 {
     QString file;
     QTextStream stream(&file);
-    writeValue(stream, nameCaption, {});
-    writeValue(stream, descriptionCaption, {});
-    for (unsigned i = 0; i < campaign.scenarios.size(); ++i) {
-        const ScenarioData &scenario = campaign.scenarios[i];
-        if (!scenario.mapHeader)
-            continue;
-        QString name = getScenarioName(&campaign, campaign.mapId, i);
-        stream << lineEnd;
-        WriteText(stream, name);
+    for (const TextPlace &place : textPlaces(campaign)) {
+        if (place.kind == TextKind::RegionText) {
+            QString name = getScenarioName(&campaign, campaign.mapId, place.scenario);
+            stream << lineEnd;
+            WriteText(stream, name);
+            stream << lineEnd << lineEnd;
+        }
+        QString text = isCampaigns(place.kind) ? QString() : textAt(campaign, place);
+        stream << captionOf(place.kind) << lineEnd;
+        WriteText(stream, text);
         stream << lineEnd << lineEnd;
-        writeValue(stream, regionTextCaption, scenario.regionText);
-        writeStories(stream, prologueCaption, scenario.prologues);
-        writeStories(stream, epilogueCaption, scenario.epilogues);
     }
     stream.flush();
     return bytesFromText(file);
@@ -198,31 +157,27 @@ QByteArray exportedTexts(CampaignData &campaign)
 
 bool importTextsFrom(QFile &file, CampaignData &campaign)
 {
-    const QByteArray bytes = readWhole(file);
+    const QByteArray bytes = readTextFile(file);
     if (bytes.isNull())
         return false;
     TextLines lines(bytes);
-    if (!lines.nextIs(nameCaption) || lines.left() < fewestLines(campaign))
+    if (lines.left() <= fewestLines(campaign))
         return false;
-    const QString name = ReadText(lines.next());
-    lines.next();
-    if (!lines.nextIs(descriptionCaption))
-        return false;
-    const QString description = ReadText(lines.next());
-    lines.next();
-
-    std::vector<QString> regionTexts(campaign.scenarios.size());
-    for (unsigned i = 0; i < campaign.scenarios.size(); ++i) {
-        ScenarioData &scenario = campaign.scenarios[i];
-        regionTexts[i] = scenario.regionText;
-        if (scenario.mapHeader &&
-            !readScenario(lines, getScenarioName(&campaign, campaign.mapId, i), scenario,
-                          regionTexts[i]))
+    std::vector<std::pair<TextPlace, QString>> others; // than stories: they are set at the end
+    for (const TextPlace &place : textPlaces(campaign)) {
+        if (place.kind == TextKind::RegionText &&
+            !readHeading(lines, getScenarioName(&campaign, campaign.mapId, place.scenario)))
             return false;
+        if (!lines.nextIs(captionOf(place.kind)))
+            return false;
+        const QString line = lines.next();
+        if (place.kind == TextKind::Prologue || place.kind == TextKind::Epilogue)
+            setTextAt(campaign, place, line);
+        else
+            others.emplace_back(place, ReadText(line));
+        lines.next();
     }
-    campaign.name = name;
-    campaign.description = description;
-    for (std::size_t i = 0; i < regionTexts.size(); ++i)
-        campaign.scenarios[i].regionText = regionTexts[i];
+    for (const auto &[place, text] : others)
+        setTextAt(campaign, place, text);
     return true;
 }

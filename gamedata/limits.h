@@ -27,6 +27,9 @@ constexpr qint64 bonusBytes = 96;
 // around them.
 constexpr qint64 textFileBytes = qint64(64) * 1024 * 1024;
 
+// Entries of a translators' file: seven texts of each scenario, and some that are gone since.
+constexpr qint64 translationUnits = 250000;
+
 // Bits of an array that are made even where the file ends before them.
 constexpr quint32 bitsWithoutData = 65536;
 
@@ -39,6 +42,11 @@ constexpr qint64 mapHeaderBytes = qint64(4) * 1024 * 1024;
 // All the headers of a campaign's maps together may take mapHeaderBytes, and this many times
 // their packed bytes. A header is much shorter than the body behind it, even packed.
 constexpr qint64 mapHeaderRatio = 8;
+
+// Inflated bytes of maps' bodies that are looked at when a campaign is searched for damage: of one
+// map, and of all.
+constexpr qint64 checkedMapBytes = qint64(256) * 1024 * 1024;
+constexpr qint64 checkedCampaignBytes = qint64(1024) * 1024 * 1024;
 
 // One unpacked entry of an archive. The largest pictures are a few megabytes.
 constexpr qint64 archiveEntryBytes = qint64(64) * 1024 * 1024;

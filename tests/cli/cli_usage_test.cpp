@@ -71,8 +71,9 @@ void CliUsageTest::wrongWordsEndWithStatusOne_data()
     row("dump", "Usage: cmped-cli [options] dump FILE");
     row("dump a b", "Usage: cmped-cli [options] dump FILE");
     row("resave a", "Usage: cmped-cli [options] resave FILE OUT");
-    row("export-texts a", "Usage: cmped-cli [options] export-texts FILE OUT");
-    row("import-texts a b", "Usage: cmped-cli [options] import-texts FILE TEXTS OUT");
+    row("export-texts a", "Usage: cmped-cli [options] export-texts [--format NAME] FILE OUT");
+    row("import-texts a b",
+        "Usage: cmped-cli [options] import-texts [--format NAME] [--force] FILE TEXTS OUT");
     row("export-maps a", "Usage: cmped-cli [options] export-maps FILE DIR");
     row("refresh-maps a b", "Usage: cmped-cli [options] refresh-maps FILE DIR OUT");
     row("render a", "Usage: cmped-cli [options] render [--size N] FILE OUT.png");

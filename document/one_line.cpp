@@ -1,0 +1,31 @@
+#include "document/one_line.h"
+
+namespace {
+
+constexpr int longest = 100;
+
+bool showsAsItIs(const QString &text, int i)
+{
+    const QChar letter = text[i];
+    if (letter.isHighSurrogate())
+        return i + 1 < text.size() && text[i + 1].isLowSurrogate();
+    if (letter.isLowSurrogate())
+        return i > 0 && text[i - 1].isHighSurrogate();
+    const QChar::Category category = letter.category();
+    return category != QChar::Other_Control && category != QChar::Separator_Line &&
+           category != QChar::Separator_Paragraph && category != QChar::Other_NotAssigned;
+}
+
+} // namespace
+
+QString oneLine(const QString &text)
+{
+    QString line;
+    for (int i = 0; i < text.size() && i < longest; ++i)
+        line += showsAsItIs(text, i) ? text[i] : QChar('?');
+    if (text.size() <= longest)
+        return line;
+    if (line.at(line.size() - 1).isHighSurrogate())
+        line.chop(1);
+    return line + QStringLiteral("...");
+}
