@@ -5,6 +5,7 @@
 #include "gamedata/image_cache.h"
 #include "gamedata/ini_file.h"
 #include "gamedata/runtime/dat_file.h"
+#include "gamedata/used_folder.h"
 #include "shell/dialog_look.h"
 #include "shell/editor_resources.h"
 #include "shell/exit_signals.h"
@@ -99,6 +100,7 @@ void createImageCache(Session &)
 void loadSettings(Session &)
 {
     ini = loadRavnIni();
+    recallUsedFolder();
 }
 
 void loadTableFile(Session &)
@@ -164,6 +166,7 @@ void runEventLoop(Session &session)
 void writeSettings(Session &)
 {
     ini->Write();
+    keepUsedFolder();
 }
 
 void freeTableFile(Session &)
