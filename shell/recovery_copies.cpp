@@ -1,5 +1,7 @@
 #include "shell/recovery_copies.h"
 
+#include "shell/file_in_writing.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -9,6 +11,15 @@
 namespace {
 
 constexpr int basesTried = 100; // for copies of one second and one document
+
+// The file that stands in a copy's place when all is written that was begun.
+std::unique_ptr<QFile> settled(std::unique_ptr<QFile> file)
+{
+    auto *writing = dynamic_cast<FileInWriting *>(file.get());
+    if (!writing || writing->finish())
+        return file;
+    return std::move(writing->old);
+}
 
 } // namespace
 
@@ -36,12 +47,15 @@ void RecoveryCopies::keep(const QString &documentName, const RecoveryOrigin &ori
     // Before the copy: one without its note would be that of a document without a file.
     if (isNew && !origin.path.isEmpty())
         writeOrigin(originPath(m_folder, m_base), origin);
+    m_lock = settled(std::move(m_lock)); // or else the older one might come last
     auto written = replaceFile(m_path, pieces);
     if (!written) {
         if (isNew)
             remove();
         return;
     }
+    if (auto *writing = dynamic_cast<FileInWriting *>(written.get()))
+        writing->old = std::move(m_lock);
     m_lock = std::move(written);
     if (isNew)
         removeOldest();
@@ -51,6 +65,8 @@ void RecoveryCopies::remove()
 {
     if (m_base.isEmpty())
         return;
+    if (auto *writing = dynamic_cast<FileInWriting *>(m_lock.get()))
+        writing->stop();
     QFile::remove(m_path);
     QFile::remove(originPath(m_folder, m_base));
     leave();
@@ -58,6 +74,11 @@ void RecoveryCopies::remove()
 
 void RecoveryCopies::leave()
 {
+    m_lock = settled(std::move(m_lock));
+    if (m_lock && m_lock->size() == 0) { // the name of a copy that could not be written
+        QFile::remove(m_path);
+        QFile::remove(originPath(m_folder, m_base));
+    }
     m_lock.reset();
     m_base.clear();
     m_path.clear();

@@ -1,6 +1,7 @@
 #include "shell/recovery_files.h"
 
 #include "gamedata/escaped_utf8.h"
+#include "shell/file_in_writing.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <numeric>
 #include <string_view>
 #include <tuple>
 
@@ -29,6 +31,9 @@ constexpr int longestName = 80; // of a document in a base, in bytes
 constexpr const char *unfinishedName = ".unfinished-XXXXXX";
 constexpr int placeholderLength = 6;
 constexpr qint64 secondsOfWriting = qint64(24) * 3600; // no copy takes longer
+
+// Written in a time that nobody notices. What is larger is written by a process of its own.
+constexpr qint64 writtenAtOnce = qint64(32) * 1024 * 1024;
 
 constexpr std::string_view signsInNames = " -_()";
 
@@ -64,6 +69,12 @@ QString forFileName(const QString &documentName)
 QString inFolder(const QString &folder, const QString &base, const char *ending)
 {
     return folder + QLatin1Char('/') + base + QLatin1String(ending);
+}
+
+qint64 sizeOf(const std::vector<QByteArray> &pieces)
+{
+    return std::accumulate(pieces.begin(), pieces.end(), qint64(0),
+                           [](qint64 sum, const QByteArray &piece) { return sum + piece.size(); });
 }
 
 void removeOrphanedOrigins(const QString &folder)
@@ -157,6 +168,10 @@ std::unique_ptr<QFile> replaceFile(const QString &path, const std::vector<QByteA
     if (!file->open())
         return nullptr;
     lockFile(*file); // a system without locks lets nobody else lock it either
+    if (sizeOf(pieces) > writtenAtOnce) {
+        if (auto written = FileInWriting::start(*file, path, pieces))
+            return written;
+    }
     for (const QByteArray &piece : pieces) {
         if (file->write(piece) != piece.size())
             return nullptr;

@@ -7,12 +7,23 @@
 #include <QRegularExpression>
 #include <QTextCodec>
 
+#include <csignal>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
 namespace {
 
 mode_t modeOf(const QString &path)
 {
     struct stat status = {};
     return stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
+}
+
+// More than is written while one waits.
+QByteArray large(char byte)
+{
+    return QByteArray(40 * 1024 * 1024, byte);
 }
 
 // The folder's name is in front of the parts that matter.
@@ -47,6 +58,14 @@ private slots:
     void damagedNoteIsNoOrigin();
     void failedRenewalKeepsTheOldCopy();
     void failedFirstCopyLeavesNothing();
+    void largeCopyHoldsThePiecesInOrder();
+    void largeCopyIsWrittenWhateverBecomesOfTheEditor();
+    void laterCopyComesLastHoweverLarge_data();
+    void laterCopyComesLastHoweverLarge();
+    void removedLargeCopyDoesNotComeBack();
+    void failedLargeCopyKeepsTheOldOne();
+    void failedFirstLargeCopyLeavesNothing();
+    void nobodyIsOfferedACopyThatIsBeingWritten();
     void placeThatCantBeWrittenIsNoTrouble();
     void folderAndFilesArePrivate();
 };
@@ -248,6 +267,104 @@ void RecoveryCopiesTest::failedFirstCopyLeavesNothing()
     QCOMPARE(files(), QStringList());
     copies.keep("harbour", untitled, {"this is longer than allowed"});
     QCOMPARE(files().size(), 1);
+}
+
+void RecoveryCopiesTest::largeCopyHoldsThePiecesInOrder()
+{
+    RecoveryCopies copies(folder);
+    copies.keep("harbour", untitled, {"one", large('x'), "two"});
+    copies.leave();
+    QCOMPARE(files().size(), 1);
+    QCOMPARE(withoutTime(files()[0]), QString("harbour.e3c"));
+    QCOMPARE(modeOf(path(files()[0])), mode_t(0600));
+    QVERIFY(contents(path(files()[0])) == "one" + large('x') + "two");
+    QVERIFY(copies.newestToOffer());
+}
+
+// It dies as soon as it may go on.
+void RecoveryCopiesTest::largeCopyIsWrittenWhateverBecomesOfTheEditor()
+{
+    const QByteArray bytes = large('x');
+    const pid_t editor = fork();
+    if (editor == 0) {
+        RecoveryCopies copies(folder);
+        copies.keep("harbour", untitled, {bytes});
+        raise(SIGKILL);
+        _exit(1);
+    }
+    int status = 0;
+    QCOMPARE(waitpid(editor, &status, 0), editor);
+    QVERIFY(WIFSIGNALED(status));
+    const RecoveryCopies copies(folder);
+    QTRY_VERIFY_WITH_TIMEOUT(copies.newestToOffer(), 60000);
+    QCOMPARE(files().size(), 1);
+    QVERIFY(contents(path(files()[0])) == bytes);
+}
+
+void RecoveryCopiesTest::laterCopyComesLastHoweverLarge_data()
+{
+    QTest::addColumn<QByteArray>("first");
+    QTest::addColumn<QByteArray>("second");
+    QTest::newRow("a larger one") << QByteArray("small") << large('x');
+    QTest::newRow("a smaller one") << large('x') << QByteArray("small");
+    QTest::newRow("one as large") << large('x') << large('y');
+}
+
+void RecoveryCopiesTest::laterCopyComesLastHoweverLarge()
+{
+    QFETCH(QByteArray, first);
+    QFETCH(QByteArray, second);
+    RecoveryCopies copies(folder);
+    copies.keep("harbour", untitled, {first});
+    copies.keep("harbour", untitled, {second});
+    copies.leave();
+    QCOMPARE(files().size(), 1);
+    QVERIFY(contents(path(files()[0])) == second);
+}
+
+void RecoveryCopiesTest::removedLargeCopyDoesNotComeBack()
+{
+    RecoveryCopies copies(folder);
+    copies.keep("harbour", {home->filePath("harbour.e3c"), {}}, {large('x')});
+    copies.remove();
+    QCOMPARE(files(), QStringList());
+}
+
+void RecoveryCopiesTest::failedLargeCopyKeepsTheOldOne()
+{
+    RecoveryCopies copies(folder);
+    copies.keep("harbour", untitled, {"short"});
+    const QStringList before = files();
+    {
+        const FileSizeLimit limit(1024 * 1024);
+        copies.keep("harbour", untitled, {large('x')});
+        copies.keep("harbour", untitled, {large('x')}); // when the first of them has failed
+        QVERIFY(!RecoveryCopies(folder).newestToOffer());
+    }
+    copies.leave();
+    QCOMPARE(files(), before);
+    QCOMPARE(contents(path(before[0])), QByteArray("short"));
+    QVERIFY(copies.newestToOffer());
+}
+
+void RecoveryCopiesTest::failedFirstLargeCopyLeavesNothing()
+{
+    RecoveryCopies copies(folder);
+    const FileSizeLimit limit(1024 * 1024);
+    copies.keep("harbour", {home->filePath("harbour.e3c"), {}}, {large('x')});
+    copies.leave();
+    QCOMPARE(files(), QStringList());
+}
+
+// Neither the old one nor the new one.
+void RecoveryCopiesTest::nobodyIsOfferedACopyThatIsBeingWritten()
+{
+    RecoveryCopies copies(folder);
+    copies.keep("harbour", untitled, {"short"});
+    copies.keep("harbour", untitled, {large('x')});
+    QVERIFY(!RecoveryCopies(folder).newestToOffer());
+    QTRY_COMPARE_WITH_TIMEOUT(QFileInfo(path(files()[0])).size(), qint64(large('x').size()), 60000);
+    QVERIFY(!RecoveryCopies(folder).newestToOffer());
 }
 
 void RecoveryCopiesTest::placeThatCantBeWrittenIsNoTrouble()

@@ -1,0 +1,88 @@
+#include "shell/file_in_writing.h"
+
+#include "gamedata/disk_file.h"
+
+#include <csignal>
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+bool writeAll(int handle, const std::vector<QByteArray> &pieces)
+{
+    for (const QByteArray &piece : pieces) {
+        for (int done = 0; done < piece.size();) {
+            const ssize_t count = uninterrupted([&] {
+                return write(handle, piece.constData() + done, std::size_t(piece.size() - done));
+            });
+            if (count <= 0)
+                return false;
+            done += int(count);
+        }
+    }
+    return true;
+}
+
+// The life of the writing process. Other threads of the program are gone here, in the middle of
+// whatever they did, so nothing is called but what the system allows then: no memory is taken.
+[[noreturn]] void writeInPlace(int handle, const char *unfinished, const char *place,
+                               const std::vector<QByteArray> &pieces)
+{
+    for (const int signal : {SIGHUP, SIGINT, SIGTERM, SIGQUIT})
+        std::signal(signal, SIG_IGN); // they are meant for the editor
+    const bool done = writeAll(handle, pieces) && rename(unfinished, place) == 0;
+    if (!done)
+        unlink(unfinished);
+    _exit(done ? 0 : 1);
+}
+
+} // namespace
+
+// The handle is one of this object's own: Qt closes the temporary file's with that.
+FileInWriting::FileInWriting(QTemporaryFile &unfinished, pid_t writer)
+    : m_unfinishedName(QFile::encodeName(unfinished.fileName())), m_writer(writer)
+{
+    unfinished.setAutoRemove(false);
+    QFile::open(fcntl(unfinished.handle(), F_DUPFD_CLOEXEC, 0), QIODevice::ReadWrite,
+                QFileDevice::AutoCloseHandle);
+}
+
+std::unique_ptr<FileInWriting> FileInWriting::start(QTemporaryFile &unfinished, const QString &path,
+                                                    const std::vector<QByteArray> &pieces)
+{
+    const QByteArray name = QFile::encodeName(unfinished.fileName());
+    const QByteArray place = QFile::encodeName(path);
+    const pid_t writer = fork();
+    if (writer < 0)
+        return nullptr;
+    if (writer == 0)
+        writeInPlace(unfinished.handle(), name.constData(), place.constData(), pieces);
+    return std::unique_ptr<FileInWriting>(new FileInWriting(unfinished, writer));
+}
+
+FileInWriting::~FileInWriting()
+{
+    finish();
+}
+
+bool FileInWriting::finish()
+{
+    if (m_writer != 0) {
+        int status = 0;
+        const pid_t ended = uninterrupted([&] { return waitpid(m_writer, &status, 0); });
+        m_inPlace = ended == m_writer && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+        m_writer = 0;
+        if (!m_inPlace)
+            unlink(m_unfinishedName.constData());
+    }
+    return m_inPlace;
+}
+
+void FileInWriting::stop()
+{
+    if (m_writer != 0)
+        kill(m_writer, SIGKILL);
+    finish();
+}
