@@ -53,7 +53,10 @@ void MainWindow::importTexts()
         warn(this, tr("Error"), tr("Cannot read file %1:\n%2.").arg(path, *failure));
         return;
     }
-    if (!importTextsFrom(file, campaign)) {
+    WaitCursor cursor;
+    const bool complete = importTextsFrom(file, campaign);
+    cursor.restore();
+    if (!complete) {
         keepRecoveryCopy();
         showCmpTextReadingError(path, file);
         return;

@@ -1,6 +1,7 @@
 // When a copy of the document is kept against a sudden end, and when one that is left is offered.
 #include "gamedata/editor_data.h"
 #include "shell/main_window.h"
+#include "shell/wait_cursor.h"
 
 #include <QDir>
 #include <QMessageBox>
@@ -25,6 +26,7 @@ void MainWindow::keepRecoveryCopy()
 {
     if (!EditorData::info.modified)
         return;
+    const WaitCursor cursor; // the header of thousands of scenarios takes its time to be packed
     const RecoveryOrigin origin{absolute(currentFile), currentFileStamp};
     campaign.saveBy([&](const std::vector<QByteArray> &pieces) {
         recoveryCopies.keep(documentName(), origin, pieces);

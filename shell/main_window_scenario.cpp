@@ -3,6 +3,7 @@
 #include "scenario/scenario_info.h"
 #include "shell/campaign_region_item.h"
 #include "shell/main_window.h"
+#include "shell/wait_cursor.h"
 
 void MainWindow::openScenarioProperties()
 {
@@ -11,7 +12,9 @@ void MainWindow::openScenarioProperties()
 
 void MainWindow::showScenarioPropertiesDlg()
 {
+    WaitCursor cursor; // a list of thousands is filled
     ScenarioInfo dialog(this, &campaign, EditorData::info.campaign, EditorData::info.region);
+    cursor.restore();
     scenarioDialog = &dialog;
     const bool accepted = dialog.exec() == QDialog::Accepted;
     scenarioDialog = nullptr;

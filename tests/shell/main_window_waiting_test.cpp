@@ -36,6 +36,8 @@ private slots:
     void hourglassStandsUntilTheMapIsDrawn();
     void hourglassStandsWhileAFileIsWritten_data();
     void hourglassStandsWhileAFileIsWritten();
+    void hourglassStandsWhileACopyIsKept_data();
+    void hourglassStandsWhileACopyIsKept();
 };
 
 void MainWindowWaitingTest::cleanup()
@@ -78,6 +80,32 @@ void MainWindowWaitingTest::hourglassStandsWhileAFileIsWritten()
     std::signal(SIGXFSZ, lookAtTheLimit);
     trigger(QTest::currentDataTag());
     QVERIFY(waitedAtTheLimit);
+}
+
+void MainWindowWaitingTest::hourglassStandsWhileACopyIsKept_data()
+{
+    QTest::addColumn<QString>("dialog");
+    QTest::newRow("campaignProperties") << "EditCampaign";
+    QTest::newRow("scenarioProperties") << "ScenarioInfo";
+}
+
+void MainWindowWaitingTest::hourglassStandsWhileACopyIsKept()
+{
+    QFETCH(QString, dialog);
+    load();
+    EditorData::info.modified = true;
+    waitedAtTheLimit = 0;
+    const NextDialog accepted([&](QWidget *widget) {
+        QCOMPARE(QString(widget->metaObject()->className()), dialog);
+        QVERIFY(!isWaiting());
+        auto *buttons = widget->findChild<QDialogButtonBox *>();
+        clickOn(buttons->button(QDialogButtonBox::Ok));
+    });
+    const FileSizeLimit limit(20);
+    std::signal(SIGXFSZ, lookAtTheLimit);
+    trigger(QTest::currentDataTag());
+    QVERIFY(waitedAtTheLimit);
+    EditorData::info.modified = false;
 }
 
 QTEST_MAIN(MainWindowWaitingTest)
