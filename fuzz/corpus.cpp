@@ -18,6 +18,7 @@ std::vector<Target> targets()
         {"table_file", tableFiles()},
         {"text_import", textImports()},
         {"text_table", textTables()},
+        {"translations", translations()},
     };
 }
 

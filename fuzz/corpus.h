@@ -26,6 +26,7 @@ std::vector<File> stringLists();
 std::vector<File> tableFiles();
 std::vector<File> textImports();
 std::vector<File> textTables();
+std::vector<File> translations();
 
 struct Target
 {
