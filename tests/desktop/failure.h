@@ -3,16 +3,14 @@
 
 #include <QString>
 
-#include <exception>
+#include <utility>
 
-struct Failure final : std::exception
+struct Failure
 {
     Failure(QString whatWasExpected, QString whatWasSeen)
         : expected(std::move(whatWasExpected)), seen(std::move(whatWasSeen))
     {
     }
-
-    const char *what() const noexcept override { return "not as expected"; }
 
     QString expected;
     QString seen;
