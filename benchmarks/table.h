@@ -1,6 +1,8 @@
 // Collects what the rows measured and writes it down as Markdown.
 #pragma once
 
+#include <QtGlobal>
+
 #include <benchmark/benchmark.h>
 
 #include <iosfwd>
@@ -11,6 +13,9 @@
 class Table : public benchmark::BenchmarkReporter
 {
 public:
+    Table() = default;
+    Q_DISABLE_COPY_MOVE(Table)
+
     // Names the row that is done on standard error, since all of them take minutes.
     bool ReportContext(const Context &context) override;
     void ReportRuns(const std::vector<Run> &report) override;
