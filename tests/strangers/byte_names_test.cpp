@@ -99,6 +99,8 @@ void ByteNamesTest::namesComeBack()
     const QString name = QFile::decodeName(bytes);
     QCOMPARE(QFile::encodeName(name), bytes);
     QVERIFY(namesOneFile(name));
+    // The system would be told what stands before the zero.
+    QVERIFY(!namesOneFile(name + QChar(QChar::Null) + name));
 }
 
 void ByteNamesTest::windowOpensAndSaves()
