@@ -25,6 +25,7 @@ void OptionPage::setUpTable(QTableWidget *table, QPushButton *add, QPushButton *
     table->setWordWrap(false);         // a row has room for one line
     table->setTabKeyNavigation(false); // the Tab key leads on to the buttons
     table->viewport()->installEventFilter(this);
+    table->installEventFilter(this);
     QHeaderView *rows = table->verticalHeader();
     rows->hide();
     rows->setMinimumSectionSize(1); // or the font would forbid the rows' height
@@ -45,7 +46,6 @@ void OptionPage::setUpTable(QTableWidget *table, QPushButton *add, QPushButton *
     connect(edit, &QPushButton::pressed, this, &OptionPage::editItem);
     connect(remove, &QPushButton::pressed, this, &OptionPage::deleteItem);
     connect(table, &QTableWidget::cellClicked, this, &OptionPage::itemChanged);
-    connect(table, &QTableWidget::itemSelectionChanged, this, &OptionPage::selectionChanged);
     connect(table, &QTableWidget::cellDoubleClicked, this, &OptionPage::itemDoubleclicked);
 }
 
@@ -53,16 +53,20 @@ void OptionPage::setColumnShare(int part, int whole)
 {
     m_sharePart = part;
     m_shareWhole = whole;
-    m_table->installEventFilter(this);
 }
 
-// The table gets its width from the page's layout, and not before the page is on show.
+// The table gets its width from the page's layout, and not before the page is on show. A key that
+// has selected a row does what a click on it would do; what the program itself selects, such as
+// the row behind one that goes, doesn't.
 bool OptionPage::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_table && event->type() == QEvent::Resize) {
+    if (watched == m_table && event->type() == QEvent::Resize && m_sharePart > 0) {
         const int width = m_table->width() * m_sharePart / m_shareWhole;
         m_table->horizontalHeader()->setDefaultSectionSize(width);
     }
+    if (watched == m_table && event->type() == QEvent::KeyRelease &&
+        !m_table->selectedItems().isEmpty())
+        itemChanged(m_table->currentRow(), m_table->currentColumn());
     if (watched == m_table->viewport() && event->type() == QEvent::ToolTip) {
         tellWholeItem(m_table, *static_cast<QHelpEvent *>(event));
         return true;
@@ -147,14 +151,6 @@ void OptionPage::deleteItem()
         m_remove->setEnabled(false);
         m_edit->setEnabled(false);
     }
-}
-
-// The keyboard's way to what a click does. What the program itself selects, such as the row behind
-// one that goes, changes nothing.
-void OptionPage::selectionChanged()
-{
-    if (m_table->hasFocus() && !m_table->selectedItems().isEmpty())
-        itemChanged(m_table->currentRow(), m_table->currentColumn());
 }
 
 void OptionPage::itemChanged(int, int)

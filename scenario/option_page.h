@@ -77,7 +77,6 @@ protected slots:
 private slots:
     void editItem();
     void itemChanged(int row, int column);
-    void selectionChanged();
     void itemDoubleclicked(int row, int column);
 
 private:
