@@ -53,12 +53,21 @@ QSvgRenderer &checkmark(bool enabled)
     return gray;
 }
 
+// Lines as filled rectangles: a pen that is scaled by one and a half covers a pixel less on some
+// sides, and half of it lies outside, where an item of a list is clipped.
+void drawFrame(const QRect &rect, const QColor &colour, QPainter &painter)
+{
+    painter.fillRect(QRect(rect.left(), rect.top(), rect.width(), 1), colour);
+    painter.fillRect(QRect(rect.left(), rect.bottom(), rect.width(), 1), colour);
+    painter.fillRect(QRect(rect.left(), rect.top(), 1, rect.height()), colour);
+    painter.fillRect(QRect(rect.right(), rect.top(), 1, rect.height()), colour);
+}
+
 void drawCheckBox(const QStyleOption &option, QPainter &painter)
 {
     painter.save();
-    painter.setPen(indicatorPen(option));
-    painter.setBrush(indicatorBrush(option));
-    painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
+    painter.fillRect(option.rect, indicatorBrush(option));
+    drawFrame(option.rect, indicatorPen(option).color(), painter);
     if (option.state & QStyle::State_On)
         checkmark(option.state & QStyle::State_Enabled).render(&painter, option.rect);
     painter.restore();

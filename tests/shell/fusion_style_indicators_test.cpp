@@ -82,6 +82,8 @@ private slots:
     void cleanup() { Style::useStandard(); }
     void checkBoxIsARectangle_data() { addLooks(); }
     void checkBoxIsARectangle();
+    void checkBoxHasAllLinesAtEveryScale_data();
+    void checkBoxHasAllLinesAtEveryScale();
     void checkMarkLiesOnTheBox_data() { addLooks(); }
     void checkMarkLiesOnTheBox();
     void disabledCheckedBoxIsGrayWithoutFill();
@@ -110,6 +112,40 @@ void FusionStyleIndicatorsTest::checkBoxIsARectangle()
             const QRgb expected = inside ? fill : box.contains(x, y) ? line : ground;
             QCOMPARE(QColor(image.pixel(x, y)).name(), QColor(expected).name());
         }
+    }
+}
+
+void FusionStyleIndicatorsTest::checkBoxHasAllLinesAtEveryScale_data()
+{
+    QTest::addColumn<qreal>("scale");
+    for (const qreal scale : {1.0, 1.25, 1.5, 1.75, 2.0, 3.0})
+        QTest::addRow("%g", scale) << scale;
+}
+
+// Wherever it stands, as the item of a list that is clipped to its own row.
+void FusionStyleIndicatorsTest::checkBoxHasAllLinesAtEveryScale()
+{
+    QFETCH(qreal, scale);
+    for (int y = 0; y < 4; ++y) {
+        QImage image(QSize(24, 24) * scale, QImage::Format_RGB32);
+        image.setDevicePixelRatio(scale);
+        image.fill(ground);
+        QStyleOptionButton option;
+        option.rect = QRect(2, y, 14, 14);
+        option.state = QStyle::State_Enabled | QStyle::State_Off;
+        QPainter painter(&image);
+        painter.setClipRect(option.rect);
+        style.drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &painter);
+        painter.end();
+        const QRect room(QPointF(2 * scale, y * scale).toPoint(), QSize(14, 14) * scale);
+        const auto isLine = [&](int x, int line) { return image.pixel(x, line) == black; };
+        QVERIFY(isLine(room.center().x(), room.top()) || isLine(room.center().x(), room.top() + 1));
+        QVERIFY(isLine(room.center().x(), room.bottom()) ||
+                isLine(room.center().x(), room.bottom() - 1));
+        QVERIFY(isLine(room.left(), room.center().y()) ||
+                isLine(room.left() + 1, room.center().y()));
+        QVERIFY(isLine(room.right(), room.center().y()) ||
+                isLine(room.right() - 1, room.center().y()));
     }
 }
 
