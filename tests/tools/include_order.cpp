@@ -54,6 +54,7 @@ constexpr RoomRow kRooms[] = {
     {"tests/monkey", "tests/monkey/", "shell|cli|tests/support"},
     {"fuzz/dialog", "fuzz/dialog/", "tests/monkey"},
     {"tests/desktop", "tests/desktop/", "tests/support"},
+    {"tests/everybody", "tests/everybody/", "tools/manual|tests/shell"},
     {"tests/performance", "tests/performance/", "shell|tests/support"},
     {"benchmarks", "benchmarks/", "tests/gamedata|tests/performance"},
 };

@@ -1,0 +1,432 @@
+// Every window by the keyboard alone: the Tab key reaches all there is in the order in which one
+// reads, keys use it, Enter accepts and Escape leaves.
+#include "tests/everybody/open_windows.h"
+#include "tests/everybody/window_walk.h"
+
+#include "gamedata/editor_data.h"
+#include "tests/support/widgets.h"
+
+#include <QAction>
+#include <QDialog>
+#include <QGraphicsView>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QTabBar>
+#include <QTableWidget>
+#include <QTextEdit>
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+constexpr int mostControls = 200;
+constexpr int slack = 4; // pixels by which neighbours may be out of line
+
+void press(const QWidget *window, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    QTest::keyClick(window->windowHandle(), Qt::Key(key), modifiers);
+}
+
+void activate(QWidget *window)
+{
+    window->activateWindow();
+    if (!QTest::qWaitForWindowActive(window, 30000))
+        QTest::qFail("The window never became active.", __FILE__, __LINE__);
+}
+
+// The controls in the order of a key, from the one that has the focus until it comes back.
+QVector<QWidget *> controlsBy(QWidget *window, int key, Qt::KeyboardModifiers modifiers)
+{
+    QVector<QWidget *> controls;
+    QWidget *first = window->focusWidget();
+    do {
+        controls += window->focusWidget();
+        press(window, key, modifiers);
+    } while (window->focusWidget() && window->focusWidget() != first &&
+             controls.size() < mostControls);
+    return controls;
+}
+
+// Whether the arrow keys lead from one to the other, of which one is chosen.
+bool belongTogether(const QWidget *one, const QWidget *other)
+{
+    const auto *a = qobject_cast<const QAbstractButton *>(one);
+    const auto *b = qobject_cast<const QAbstractButton *>(other);
+    return a && b && a->autoExclusive() && b->autoExclusive() && a->isCheckable() &&
+           b->isCheckable() && a->parentWidget() == b->parentWidget();
+}
+
+QStringList unreached(QWidget *window, const QVector<QWidget *> &reached)
+{
+    QStringList left;
+    const QVector<QWidget *> controls = focusableControls(window);
+    for (const QWidget *control : controls) {
+        const bool found =
+            std::any_of(reached.begin(), reached.end(), [control](const QWidget *other) {
+                return other == control || belongTogether(other, control);
+            });
+        if (control->isEnabled() && !found)
+            left += describe(control);
+    }
+    return left;
+}
+
+QRect placeOf(const QWidget *control)
+{
+    return {control->mapTo(control->window(), QPoint()), control->size()};
+}
+
+// Below it or to its right.
+bool isReadAfter(const QWidget *control, const QWidget *before)
+{
+    return placeOf(control).top() >= placeOf(before).bottom() - slack ||
+           placeOf(control).left() >= placeOf(before).right() - slack;
+}
+
+// Each answers whether keys changed what the control shows.
+
+bool typesInto(QTextEdit *edit)
+{
+    const QString before = edit->toPlainText();
+    press(edit->window(), Qt::Key_X);
+    return edit->toPlainText().size() == before.size() + 1;
+}
+
+bool choosesIn(QComboBox *box)
+{
+    const int before = box->currentIndex();
+    press(box->window(), before > 0 ? Qt::Key_Up : Qt::Key_Down);
+    return box->count() < 2 || box->currentIndex() != before;
+}
+
+bool counts(QSpinBox *box)
+{
+    const int before = box->value();
+    press(box->window(), Qt::Key_Up);
+    return box->value() == before + 1;
+}
+
+bool turnsPages(QTabBar *bar)
+{
+    const int before = bar->currentIndex();
+    const bool last = before == bar->count() - 1;
+    press(bar->window(), last ? Qt::Key_Left : Qt::Key_Right);
+    const bool turned = bar->currentIndex() != before;
+    press(bar->window(), last ? Qt::Key_Right : Qt::Key_Left);
+    return turned && bar->currentIndex() == before;
+}
+
+bool walksIn(QListWidget *list)
+{
+    press(list->window(), Qt::Key_Home);
+    const int before = list->currentRow();
+    press(list->window(), Qt::Key_Down);
+    if (list->count() > 1 && list->currentRow() == before)
+        return false;
+    QListWidgetItem *item = list->currentItem();
+    if (!item || !item->data(Qt::CheckStateRole).isValid())
+        return item;
+    const Qt::CheckState state = item->checkState();
+    press(list->window(), Qt::Key_Space);
+    return item->checkState() != state;
+}
+
+bool selectsIn(QTableWidget *table)
+{
+    press(table->window(), Qt::Key_Space);
+    return table->rowCount() == 0 || !table->selectedItems().isEmpty();
+}
+
+bool choosesAnother(QAbstractButton *button)
+{
+    const auto isAnother = [button](const QWidget *widget) {
+        return widget != button && widget->isEnabled() && belongTogether(widget, button);
+    };
+    const QVector<QWidget *> controls = focusableControls(button->window());
+    if (std::none_of(controls.begin(), controls.end(), isAnother))
+        return true;
+    // Arrows choose from the one that is chosen on; any other is chosen by Space.
+    if (!button->isChecked()) {
+        press(button->window(), Qt::Key_Space);
+        return button->isChecked();
+    }
+    // In a row it is another arrow key that leads on than in a column.
+    const QWidget *window = button->window();
+    for (const int key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Right, Qt::Key_Left}) {
+        if (window->focusWidget() == button)
+            press(window, key);
+    }
+    const auto *chosen = qobject_cast<QAbstractButton *>(window->focusWidget());
+    const bool changed = chosen && chosen != button && chosen->isChecked();
+    button->setFocus();
+    press(button->window(), Qt::Key_Space); // back, for the controls that go with it
+    return changed && button->isChecked();
+}
+
+bool toggles(QAbstractButton *button)
+{
+    const bool before = button->isChecked();
+    press(button->window(), Qt::Key_Space);
+    const bool changed = button->isChecked() != before;
+    press(button->window(), Qt::Key_Space);
+    return changed && button->isChecked() == before;
+}
+
+// Cut off from what it does, which may be another window.
+bool clicks(QAbstractButton *button)
+{
+    button->disconnect();
+    const QSignalSpy pressed(button, &QAbstractButton::pressed);
+    const QSignalSpy clicked(button, &QAbstractButton::clicked);
+    press(button->window(), Qt::Key_Space);
+    return pressed.count() == 1 && clicked.count() == 1;
+}
+
+bool movesOn(QGraphicsView *view)
+{
+    const unsigned before = EditorData::info.region;
+    press(view->window(), Qt::Key_PageDown);
+    return EditorData::info.region == before + 1;
+}
+
+bool worksByKeys(QWidget *control)
+{
+    control->setFocus();
+    if (auto *edit = qobject_cast<QTextEdit *>(control))
+        return typesInto(edit);
+    if (auto *box = qobject_cast<QComboBox *>(control))
+        return choosesIn(box);
+    if (auto *box = qobject_cast<QSpinBox *>(control))
+        return counts(box);
+    if (auto *bar = qobject_cast<QTabBar *>(control))
+        return turnsPages(bar);
+    if (auto *list = qobject_cast<QListWidget *>(control))
+        return walksIn(list);
+    if (auto *table = qobject_cast<QTableWidget *>(control))
+        return selectsIn(table);
+    if (auto *view = qobject_cast<QGraphicsView *>(control))
+        return movesOn(view);
+    auto *button = qobject_cast<QAbstractButton *>(control);
+    if (!button)
+        return false;
+    if (button->autoExclusive() && button->isCheckable())
+        return choosesAnother(button);
+    return button->isCheckable() ? toggles(button) : clicks(button);
+}
+
+int sceneNamed(const char *name)
+{
+    const auto &scenes = manualScenes();
+    const auto found = std::find_if(scenes.begin(), scenes.end(), [name](const auto &scene) {
+        return QLatin1String(scene.name) == QLatin1String(name);
+    });
+    if (found == scenes.end())
+        qFatal("There is no scene %s.", name);
+    return int(found - scenes.begin());
+}
+
+template<typename Widget>
+Widget *shownChild(const QWidget *window, const char *name)
+{
+    const auto widgets = window->findChildren<Widget *>(QLatin1String(name));
+    const auto found = std::find_if(widgets.begin(), widgets.end(),
+                                    [](const QWidget *widget) { return widget->isVisible(); });
+    if (found == widgets.end())
+        qFatal("No %s is on show.", name);
+    return *found;
+}
+
+// Tab until this control has the focus.
+void tabTo(QWidget *control)
+{
+    QWidget *window = control->window();
+    for (int i = 0; i < mostControls && window->focusWidget() != control; ++i)
+        press(window, Qt::Key_Tab);
+    QCOMPARE(window->focusWidget(), control);
+}
+
+} // namespace
+
+class KeyboardTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { windows = std::make_unique<OpenWindows>(); }
+
+    void tabReachesEverythingInReadingOrder_data() { addWindows(); }
+    void tabReachesEverythingInReadingOrder();
+    void keysUseEveryControl_data() { addWindows(); }
+    void keysUseEveryControl();
+    void keysEndEveryDialog_data();
+    void keysEndEveryDialog();
+    void keysReachEveryCommand_data();
+    void keysReachEveryCommand();
+    void keysEditAndRemoveRows_data();
+    void keysEditAndRemoveRows();
+
+private:
+    std::unique_ptr<OpenWindows> windows;
+};
+
+void KeyboardTest::tabReachesEverythingInReadingOrder()
+{
+    QFETCH(int, scene);
+    const ManualWindow opened = OpenWindows::open(scene);
+    QWidget *window = opened.window.get();
+    activate(window);
+    QVERIFY(window->focusWidget());
+    QVector<QWidget *> forwards = controlsBy(window, Qt::Key_Tab, Qt::NoModifier);
+    QVERIFY(forwards.size() < mostControls);
+    QCOMPARE(unreached(window, forwards), QStringList());
+    for (int i = 1; i < forwards.size(); ++i) {
+        QVERIFY2(isReadAfter(forwards[i], forwards[i - 1]),
+                 qPrintable(describe(forwards[i - 1]) + " -> " + describe(forwards[i])));
+    }
+    const QVector<QWidget *> backwards = controlsBy(window, Qt::Key_Backtab, Qt::ShiftModifier);
+    std::reverse(forwards.begin() + 1, forwards.end());
+    QCOMPARE(backwards, forwards);
+}
+
+void KeyboardTest::keysUseEveryControl()
+{
+    QFETCH(int, scene);
+    const ManualWindow opened = OpenWindows::open(scene);
+    QWidget *window = opened.window.get();
+    activate(window);
+    int used = 0;
+    const QVector<QWidget *> controls = controlsBy(window, Qt::Key_Tab, Qt::NoModifier);
+    for (QWidget *control : controls) {
+        if (!control->isVisible() || !control->isEnabled())
+            continue; // by what was done with another
+        QVERIFY2(worksByKeys(control), qPrintable(describe(control)));
+        QVERIFY2(window->isVisible(), qPrintable(describe(control)));
+        ++used;
+    }
+    QVERIFY(used > 0);
+}
+
+void KeyboardTest::keysEndEveryDialog_data()
+{
+    QTest::addColumn<int>("scene");
+    for (int scene = 1; scene < int(manualScenes().size()); ++scene) // the first is the window
+        QTest::newRow(manualScenes()[std::size_t(scene)].name) << scene;
+}
+
+// In a text Enter begins a line.
+void KeyboardTest::keysEndEveryDialog()
+{
+    QFETCH(int, scene);
+    const ManualWindow opened = OpenWindows::open(scene);
+    auto *dialog = qobject_cast<QDialog *>(opened.window.get());
+    QVERIFY(dialog);
+    for (const int key : {Qt::Key_Escape, Qt::Key_Return}) {
+        dialog->show();
+        activate(dialog);
+        while (qobject_cast<QTextEdit *>(dialog->focusWidget()))
+            press(dialog, Qt::Key_Tab);
+        dialog->setResult(-1);
+        press(dialog, key);
+        QVERIFY(!dialog->isVisible());
+        QCOMPARE(dialog->result(),
+                 int(key == Qt::Key_Escape ? QDialog::Rejected : QDialog::Accepted));
+    }
+}
+
+void KeyboardTest::keysReachEveryCommand_data()
+{
+    QTest::addColumn<int>("menu");
+    QTest::addColumn<QString>("command");
+    const ManualWindow opened = OpenWindows::open(0);
+    const auto titles = childOf<QMenuBar>(opened.window.get(), "menuBar")->actions();
+    for (int menu = 0; menu < titles.size(); ++menu) {
+        const auto actions = titles[menu]->menu()->actions();
+        for (const QAction *action : actions) {
+            if (action->isVisible() && !action->isSeparator() && !action->objectName().isEmpty())
+                QTest::newRow(qPrintable(action->objectName())) << menu << action->objectName();
+        }
+    }
+}
+
+// The Alt key alone leads into the menus, arrows through them.
+void KeyboardTest::keysReachEveryCommand()
+{
+    QFETCH(int, menu);
+    QFETCH(QString, command);
+    const ManualWindow opened = OpenWindows::open(0);
+    QWidget *window = opened.window.get();
+    activate(window);
+    auto *bar = childOf<QMenuBar>(window, "menuBar");
+    auto *action = window->findChild<QAction *>(command);
+    action->disconnect();
+    const QSignalSpy triggered(action, &QAction::triggered);
+    press(window, Qt::Key_Alt);
+    QVERIFY(bar->activeAction());
+    for (int i = 0; i < menu; ++i)
+        press(window, Qt::Key_Right);
+    press(window, Qt::Key_Down);
+    QMenu *open = bar->actions().at(menu)->menu();
+    QTRY_VERIFY_WITH_TIMEOUT(open->isVisible(), 30000);
+    for (int i = 0; i < open->actions().size() && open->activeAction() != action; ++i)
+        press(window, Qt::Key_Down);
+    QCOMPARE(open->activeAction(), action);
+    press(window, Qt::Key_Return);
+    QCOMPARE(triggered.count(), 1);
+    QVERIFY(!open->isVisible());
+}
+
+void KeyboardTest::keysEditAndRemoveRows_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::newRow("start-bonus") << "Edit Starting Bonus";
+    QTest::newRow("start-crossover") << "Edit Hero Crossover Option";
+    QTest::newRow("start-hero") << "Edit Starting Hero Option";
+}
+
+// A row is chosen by Space, or by an arrow key; only then can it be edited.
+void KeyboardTest::keysEditAndRemoveRows()
+{
+    const ManualWindow opened = OpenWindows::open(sceneNamed(QTest::currentDataTag()));
+    QWidget *window = opened.window.get();
+    activate(window);
+    auto *table = shownChild<QTableWidget>(window, "tableWidget");
+    auto *edit = shownChild<QPushButton>(window, "editButton");
+    auto *remove = shownChild<QPushButton>(window, "removeButton");
+    const int rows = table->rowCount();
+    QVERIFY(rows > 1);
+    tabTo(table);
+    QVERIFY(!edit->isEnabled() && !remove->isEnabled());
+    press(window, Qt::Key_Space);
+    QVERIFY(edit->isEnabled() && remove->isEnabled());
+    press(window, Qt::Key_Down);
+    QCOMPARE(table->selectedItems().value(0), table->item(1, table->currentColumn()));
+    const QString behind = rows > 2 ? table->item(2, 0)->text() : QString();
+
+    tabTo(edit);
+    QString title;
+    {
+        const NextDialog dialog([&title](QWidget *shown) {
+            title = shown->windowTitle();
+            QTest::keyClick(shown->windowHandle(), Qt::Key_Escape);
+            if (shown->isVisible())
+                shown->close();
+        });
+        press(window, Qt::Key_Space);
+        QVERIFY(dialog.came());
+    }
+    QTEST(title, "title");
+
+    activate(window);
+    tabTo(remove);
+    press(window, Qt::Key_Space);
+    QCOMPARE(table->rowCount(), rows - 1);
+    if (rows > 2)
+        QCOMPARE(table->item(1, 0)->text(), behind);
+}
+
+QTEST_MAIN(KeyboardTest)
+#include "keyboard_test.moc"
