@@ -3,7 +3,8 @@
 //
 //   box|TITLE|TEXT|ICON|BUTTONS|is the main window visible|SPLASH
 //       line feeds as "\n"; then presses OK
-//   window|TITLE|MENU|SPLASH|FONT SIZE|COMBO ANIMATION|HIGH DPI SCALING|HIGH DPI PIXMAPS
+//   window|TITLE|MENU|SPLASH|FONT SIZE|COMBO ANIMATION|HIGH DPI SCALING|HIGH DPI PIXMAPS|
+//       do message boxes show markup as it is
 //
 // When the window is there, RUN_PROBE_END says how the program is ended: "exit" by its menu,
 // "close" by the window's button, "code NUMBER" by ending the event loop with it, "new ROW" by
@@ -79,6 +80,13 @@ void endProgram(QMainWindow *window)
         QCoreApplication::quit();
 }
 
+bool showsMarkupAsItIs()
+{
+    QMessageBox box;
+    box.ensurePolished();
+    return box.textFormat() == Qt::PlainText;
+}
+
 void look()
 {
     static bool seen = false;
@@ -92,7 +100,8 @@ void look()
            splashName(), QString::number(QApplication::font().pointSize()),
            QString::number(QApplication::isEffectEnabled(Qt::UI_AnimateCombo)),
            QString::number(QCoreApplication::testAttribute(Qt::AA_EnableHighDpiScaling)),
-           QString::number(QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps))});
+           QString::number(QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps)),
+           QString::number(showsMarkupAsItIs())});
     QTimer::singleShot(0, window, [window] { endProgram(window); });
 }
 

@@ -102,7 +102,7 @@ void RunTest::startsTheWindowAndEnds()
     QVERIFY(result.started && result.exitedNormally);
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(columns(result, "window"),
-             QStringList({untitled, "File", "en hidden", "8", "0", "1", "1"}));
+             QStringList({untitled, "File", "en hidden", "8", "0", "1", "1", "1"}));
     QVERIFY(columns(result, "box").isEmpty());
 }
 
