@@ -10,7 +10,8 @@ enum ExitStatus
 {
     exitDone = 0,
     exitWrongUsage = 1,
-    exitFailed = 2, // the input can't be read or the output can't be written
+    exitFailed = 2,  // the input can't be read or the output can't be written
+    exitFindings = 3 // "check" has found something
 };
 
 // The options of one call and their values, by their names without the dashes. An option that

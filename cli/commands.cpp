@@ -2,6 +2,7 @@
 
 #include "cli/archive_commands.h"
 #include "cli/campaign_commands.h"
+#include "cli/check_command.h"
 #include "cli/exchange_commands.h"
 #include "cli/picture_commands.h"
 #include "cli/table_commands.h"
@@ -23,6 +24,13 @@ see changes of campaigns in "git diff":
 )";
 
 constexpr char resaveMore[] = R"(Reads the campaign FILE and writes it to OUT in the newest format.
+)";
+
+constexpr char checkMore[] =
+    R"(Searches campaigns and maps (.e3m) for what the editor would drop or change
+without a word, and for what is damaged. Each finding is a line, "FILE: WHERE:
+WHAT". Exit status: 0 nothing was found, 3 something was, 2 a file can't be
+read; the others are searched all the same. Files are never changed.
 )";
 
 constexpr char exportTextsMore[] =
@@ -69,9 +77,10 @@ for one without a map; COLOUR goes from 0 to 7.
 
 constexpr CommandOption formatOption{"format", "NAME", "po, xliff (.xlf), csv or txt"};
 
-constexpr std::array<Command, 11> commands{{
+constexpr std::array<Command, 12> commands{{
     {"dump", "FILE", "prints a campaign as JSON", runDump, dumpMore},
     {"resave", "FILE OUT", "writes it in the newest format", runResave, resaveMore},
+    {"check", "FILE...", "tells damage and what would be lost", runCheck, checkMore},
     {"export-texts",
      "FILE OUT",
      "writes its texts for translators",
@@ -107,7 +116,7 @@ Reads and writes campaigns and shows the game's data, without a window.
 
 constexpr char notes[] = R"(
 "cmped-cli COMMAND --help" and "man cmped-cli" tell more. Exit status: 0 done,
-1 wrong usage, 2 can't be read or written.
+1 wrong usage, 2 can't be read or written, 3 "check" has found something.
 )";
 
 QString titleOf(const Command &command)

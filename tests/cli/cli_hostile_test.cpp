@@ -28,6 +28,8 @@ private slots:
 private:
     // Runs the program on the game's folder with these words.
     void check(const CliGame &game, const QStringList &words);
+    // Searches a campaign for damage, for which its maps are unpacked whole.
+    void checkSearch(const QString &file);
 
     CliGame m_game;
     CliGame m_tableGame;
@@ -126,6 +128,7 @@ void CliHostileTest::campaignIsReadSoonAndInLittleMemory()
     const QString out = m_game.filePath(QStringLiteral("out.e3c"));
     check(m_game, {QStringLiteral("dump"), file});
     check(m_game, {QStringLiteral("resave"), file, out});
+    checkSearch(file);
 }
 
 void CliHostileTest::absurdCountsHaveTheirAnswer_data()
@@ -200,6 +203,20 @@ void CliHostileTest::largestCampaignIsDumpedWithoutASecondCopy()
     QCOMPARE(result.exitCode, 0);
     if (!sanitized)
         QVERIFY2(result.peakKilobytes < kilobytesForTheLargest,
+                 qPrintable(QStringLiteral("%1 KB").arg(result.peakKilobytes)));
+}
+
+void CliHostileTest::checkSearch(const QString &file)
+{
+    const qint64 before = childrenMilliseconds();
+    const ChildResult result = m_game.run({QStringLiteral("check"), file});
+    const qint64 spent = childrenMilliseconds() - before;
+    QVERIFY(result.exitedNormally);
+    QVERIFY2(result.exitCode == 0 || result.exitCode == 2 || result.exitCode == 3, result.error);
+    QCOMPARE(result.output.isEmpty(), result.exitCode != 3);
+    QVERIFY2(spent < 3 * millisecondsAllowed, qPrintable(QStringLiteral("%1 ms").arg(spent)));
+    if (!sanitized)
+        QVERIFY2(result.peakKilobytes < kilobytesAllowed,
                  qPrintable(QStringLiteral("%1 KB").arg(result.peakKilobytes)));
 }
 

@@ -81,6 +81,7 @@ void CliUsageTest::wrongWordsEndWithStatusOne_data()
     row("list a", "Usage: cmped-cli [options] list");
     row("extract a", "Usage: cmped-cli [options] extract NAME OUT");
     row("region 0 0 0 0", "Usage: cmped-cli [options] region MAP REGION STATE COLOUR OUT.png");
+    row("check", "Usage: cmped-cli [options] check FILE...");
     row("dump --colour a", "Unknown option 'colour'.");
     row("dump a --help=all", "Unknown option 'help'.");
     row("dump -- --help b", "Usage: cmped-cli [options] dump FILE");
@@ -116,7 +117,7 @@ void CliUsageTest::helpNamesEveryCommand()
     QCOMPARE(result.error, QByteArray());
     for (const char *line :
          {"Usage: cmped-cli [options] COMMAND", "\n  dump FILE ", "\n  resave FILE OUT ",
-          "\n  export-texts FILE OUT ", "\n  import-texts FILE TEXTS OUT ",
+          "\n  check FILE... ", "\n  export-texts FILE OUT ", "\n  import-texts FILE TEXTS OUT ",
           "\n  export-maps FILE DIR ", "\n  refresh-maps FILE DIR OUT ", "\n  render FILE OUT.png ",
           "\n  tables ", "\n  list ", "\n  extract NAME OUT ",
           "\n  region MAP REGION STATE COLOUR OUT.png ", "\n  --game DIR ", "\n  --encoding NAME ",

@@ -1,0 +1,6 @@
+// The command that searches campaigns and maps for damage.
+#pragma once
+
+#include "cli/command.h"
+
+ExitStatus runCheck(const QStringList &arguments);
