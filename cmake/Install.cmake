@@ -70,3 +70,14 @@ cmped_install_for_system(${CMAKE_INSTALL_DOCDIR}
     ${manual}/manual.md
     ${packaging}/debian/copyright
     ${CMPED_CHANGELOG})
+
+# bash looks a program's completion up by the program's name alone.
+if(EXISTS ${packaging}/completions)
+    foreach(program cmped cmped-cli)
+        install(FILES ${packaging}/completions/${program}.bash RENAME ${program}
+            DESTINATION ${share}/bash-completion/completions COMPONENT system EXCLUDE_FROM_ALL)
+    endforeach()
+    cmped_install_for_system(${share}/zsh/vendor-completions
+        ${packaging}/completions/_cmped
+        ${packaging}/completions/_cmped-cli)
+endif()

@@ -4,7 +4,7 @@ set(CPACK_PACKAGE_NAME cmped)
 set(CPACK_PACKAGE_VENDOR "The Campaign Editor's Makers")
 set(CPACK_PACKAGE_CONTACT "The Campaign Editor's Makers <makers@cmped.invalid>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "campaign editor for the game Eldmark Saga")
-set(CPACK_PACKAGE_DESCRIPTION
+set(CPACK_COMPONENT_SYSTEM_DESCRIPTION
 "Makes campaigns for the turn-based strategy game Eldmark Saga with its
 add-on Ravn: chains of scenarios on a map with clickable regions, with their
 prologues, epilogues and starting bonuses, and with rules for the heroes who
