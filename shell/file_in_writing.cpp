@@ -5,6 +5,7 @@
 #include <csignal>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -70,19 +71,20 @@ FileInWriting::~FileInWriting()
 bool FileInWriting::finish()
 {
     if (m_writer != 0) {
-        int status = 0;
-        const pid_t ended = uninterrupted([&] { return waitpid(m_writer, &status, 0); });
-        m_inPlace = ended == m_writer && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+        uninterrupted([&] { return waitpid(m_writer, nullptr, 0); });
         m_writer = 0;
-        if (!m_inPlace)
-            unlink(m_unfinishedName.constData());
+        // Whoever was ended can't tell. Without the name that it had it is in its place, or
+        // nowhere.
+        unlink(m_unfinishedName.constData());
+        struct stat status = {};
+        m_inPlace = fstat(handle(), &status) == 0 && status.st_nlink > 0;
     }
     return m_inPlace;
 }
 
-void FileInWriting::stop()
+bool FileInWriting::stop()
 {
     if (m_writer != 0)
         kill(m_writer, SIGKILL);
-    finish();
+    return finish();
 }

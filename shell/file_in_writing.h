@@ -27,9 +27,8 @@ public:
     // Waits as well, and answers whether the file is in its place. If not, the old one still is,
     // and nothing is left of this one.
     bool finish();
-    // Ends it. The file in that place is the old one, or the new one if it was just about to be
-    // done.
-    void stop();
+    // The same, ending the process where it is.
+    bool stop();
 
     // Kept until it is known how the writing ends: the old file, locked.
     std::unique_ptr<QFile> old;

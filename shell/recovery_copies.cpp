@@ -12,11 +12,12 @@ namespace {
 
 constexpr int basesTried = 100; // for copies of one second and one document
 
-// The file that stands in a copy's place when all is written that was begun.
-std::unique_ptr<QFile> settled(std::unique_ptr<QFile> file)
+// The file that stands in a copy's place in the end; if it is still being written, `end` decides
+// when that is.
+std::unique_ptr<QFile> settled(std::unique_ptr<QFile> file, bool (FileInWriting::*end)())
 {
     auto *writing = dynamic_cast<FileInWriting *>(file.get());
-    if (!writing || writing->finish())
+    if (!writing || (writing->*end)())
         return file;
     return std::move(writing->old);
 }
@@ -47,7 +48,8 @@ void RecoveryCopies::keep(const QString &documentName, const RecoveryOrigin &ori
     // Before the copy: one without its note would be that of a document without a file.
     if (isNew && !origin.path.isEmpty())
         writeOrigin(originPath(m_folder, m_base), origin);
-    m_lock = settled(std::move(m_lock)); // or else the older one might come last
+    // What is being written is outdated, and might come last.
+    m_lock = settled(std::move(m_lock), &FileInWriting::stop);
     auto written = replaceFile(m_path, pieces);
     if (!written) {
         if (isNew)
@@ -65,8 +67,7 @@ void RecoveryCopies::remove()
 {
     if (m_base.isEmpty())
         return;
-    if (auto *writing = dynamic_cast<FileInWriting *>(m_lock.get()))
-        writing->stop();
+    m_lock = settled(std::move(m_lock), &FileInWriting::stop);
     QFile::remove(m_path);
     QFile::remove(originPath(m_folder, m_base));
     leave();
@@ -74,7 +75,7 @@ void RecoveryCopies::remove()
 
 void RecoveryCopies::leave()
 {
-    m_lock = settled(std::move(m_lock));
+    m_lock = settled(std::move(m_lock), &FileInWriting::finish);
     if (m_lock && m_lock->size() == 0) { // the name of a copy that could not be written
         QFile::remove(m_path);
         QFile::remove(originPath(m_folder, m_base));
