@@ -1,5 +1,6 @@
 #include "shell/fusion_style_tweaks.h"
 
+#include "shell/readable_palette.h"
 #include "shell/style.h"
 
 #include <QIcon>
@@ -183,4 +184,10 @@ int FusionStyleTweaks::styleHint(StyleHint hint, const QStyleOption *option, con
     if (hint == SH_ComboBox_Popup)
         return 0;
     return QProxyStyle::styleHint(hint, option, widget, returnData);
+}
+
+void FusionStyleTweaks::polish(QPalette &palette)
+{
+    QProxyStyle::polish(palette);
+    makeDisabledTextsReadable(palette);
 }

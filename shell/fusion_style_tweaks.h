@@ -22,4 +22,8 @@ public:
     int styleHint(StyleHint hint, const QStyleOption *option = nullptr,
                   const QWidget *widget = nullptr,
                   QStyleHintReturn *returnData = nullptr) const override;
+
+    using QProxyStyle::polish;
+    // The desktop's colours, with texts that can be read where they are disabled.
+    void polish(QPalette &palette) override;
 };

@@ -12,8 +12,10 @@ class ShapeEngine : public QIconEngine
 {
 public:
     explicit ShapeEngine(const QIcon &newShape) : shape(newShape) {}
+    ShapeEngine(const ShapeEngine &) = delete;
+    ShapeEngine &operator=(const ShapeEngine &) = delete;
 
-    QIconEngine *clone() const override { return new ShapeEngine(*this); }
+    QIconEngine *clone() const override { return new ShapeEngine(shape); }
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
     {
@@ -35,7 +37,7 @@ public:
     }
 
 private:
-    QIcon shape;
+    const QIcon shape;
 };
 
 } // namespace

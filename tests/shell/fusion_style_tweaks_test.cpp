@@ -75,6 +75,9 @@ private slots:
     void closeIconIsACrossedSquare();
     void closeIconIsDrawnOnce();
     void otherIconsAreFusions();
+    void disabledTextsOfADarkDesktopCanBeRead_data();
+    void disabledTextsOfADarkDesktopCanBeRead();
+    void otherPalettesStayAsTheyAre();
 
 private:
     FusionStyleTweaks style;
@@ -269,6 +272,54 @@ void FusionStyleTweaksTest::otherIconsAreFusions()
                             QStyle::SP_TitleBarMinButton})
         QCOMPARE(style.standardIcon(icon).pixmap(16, 16).toImage(),
                  fusion->standardIcon(icon).pixmap(16, 16).toImage());
+}
+
+void FusionStyleTweaksTest::disabledTextsOfADarkDesktopCanBeRead_data()
+{
+    QTest::addColumn<QColor>("window");
+    QTest::addColumn<QColor>("button");
+    QTest::addColumn<QColor>("disabled");
+    QTest::addColumn<int>("least"); // the gray of a contrast of 3 to 1 with the button
+    QTest::newRow("blue") << QColor(42, 46, 50) << QColor(49, 54, 59) << QColor(60, 66, 72) << 0x7f;
+    QTest::newRow("gray") << QColor(46, 46, 46) << QColor(64, 64, 64) << QColor(120, 120, 120)
+                          << 0x8a;
+    QTest::newRow("black") << QColor(0, 0, 0) << QColor(0, 0, 0) << QColor(0, 0, 0) << 0x5a;
+}
+
+// They are lighter than they were, but still not as light as the others.
+void FusionStyleTweaksTest::disabledTextsOfADarkDesktopCanBeRead()
+{
+    QFETCH(QColor, window);
+    QFETCH(QColor, button);
+    QFETCH(QColor, disabled);
+    QFETCH(int, least);
+    QPalette palette(Qt::white, button, Qt::white, Qt::black, Qt::gray, Qt::white, Qt::white,
+                     Qt::black, window);
+    const auto roles = {QPalette::WindowText, QPalette::Text, QPalette::ButtonText};
+    for (const auto role : roles)
+        palette.setColor(QPalette::Disabled, role, disabled);
+    style.polish(palette);
+    for (const auto role : roles) {
+        const int lightness = palette.color(QPalette::Disabled, role).lightness();
+        QVERIFY2(lightness >= least && lightness < 255, qPrintable(QString::number(lightness)));
+        QCOMPARE(palette.color(QPalette::Active, role), QColor(Qt::white));
+    }
+    QCOMPARE(palette.color(QPalette::Window), window);
+    QCOMPARE(palette.color(QPalette::Button), button);
+}
+
+void FusionStyleTweaksTest::otherPalettesStayAsTheyAre()
+{
+    QPalette light = fusion->standardPalette();
+    style.polish(light);
+    QCOMPARE(light, fusion->standardPalette());
+    QPalette dark(Qt::white, Qt::black, Qt::white, Qt::black, Qt::gray, Qt::white, Qt::white,
+                  Qt::black, Qt::black);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        dark.setColor(QPalette::Disabled, role, QColor(160, 160, 160));
+    const QPalette before = dark;
+    style.polish(dark);
+    QCOMPARE(dark, before);
 }
 
 QTEST_MAIN(FusionStyleTweaksTest)
