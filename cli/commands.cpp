@@ -146,5 +146,5 @@ QString helpText(const QString &options)
         text += QStringLiteral("  %1  %2\n")
                     .arg(titleOf(command).leftJustified(width), QString::fromLatin1(command.help));
     }
-    return text + QStringLiteral("\nOptions:\n") + options + QString::fromLatin1(notes);
+    return text + QLatin1Char('\n') + options + QString::fromLatin1(notes);
 }
