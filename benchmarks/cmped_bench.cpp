@@ -35,6 +35,7 @@ void addRows(const Inputs &inputs)
     addRedrawRows();
     addScenarioDialogRows();
     addRecoveryRows(inputs);
+    addStallRows(inputs);
     addOpeningGrowth(inputs);
     addComposingGrowth();
     addStartGrowth(inputs);

@@ -11,6 +11,7 @@ void addRedrawRows();
 void addStartRows(const Inputs &inputs);
 void addScenarioDialogRows();
 void addRecoveryRows(const Inputs &inputs);
+void addStallRows(const Inputs &inputs);
 
 void addOpeningGrowth(const Inputs &inputs);
 void addComposingGrowth();

@@ -3,6 +3,7 @@
 // again.
 #include "benchmarks/groups.h"
 #include "benchmarks/rows.h"
+#include "benchmarks/scenario_chain.h"
 #include "document/campaign_data.h"
 #include "scenario/scenario_info.h"
 
@@ -43,18 +44,7 @@ constexpr std::array<Change, 4> changesOfTheList = {{
 
 CampaignData longCampaign(bool chained)
 {
-    constexpr unsigned scenariosForMap = 8;
-    CampaignData campaign;
-    campaign.initDummyCampaign(24, false, 0, scenarioCount - roomForChanges);
-    for (std::size_t i = 0; i < campaign.scenarios.size(); i += scenariosForMap) {
-        ScenarioData &scenario = campaign.scenarios[i];
-        scenario.mapFileName = QStringLiteral("chapter %1.e3m").arg(i);
-        scenario.mapHeader = std::make_shared<MapHeader>();
-        scenario.startOptions = std::make_shared<CmpScenarioStartOptions>();
-        if (chained && i > 0)
-            scenario.prerequisites.setBit(int(i - scenariosForMap));
-    }
-    return campaign;
+    return scenarioChain(scenarioCount - roomForChanges, chained);
 }
 
 void fillPlainList()
