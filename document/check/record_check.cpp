@@ -105,9 +105,9 @@ private:
     // A bit array of which the editor keeps so many bits.
     QByteArray readBits(quint32 count, quint32 kept, const char *name)
     {
-        const QByteArray bytes = read((count + 7) / 8);
+        QByteArray bytes = read((count + 7) / 8);
         for (quint32 bit = std::min(count, kept); bit < quint32(bytes.size()) * 8; ++bit) {
-            if (quint8(bytes[int(bit / 8)]) >> (bit % 8) & 1) {
+            if (quint8(bytes.at(int(bit / 8))) >> (bit % 8) & 1) {
                 find(QStringLiteral("a bit beyond the %1 %2 is set, saving clears it")
                          .arg(QString::number(std::min(count, kept)), QLatin1String(name)));
                 break;
