@@ -96,10 +96,17 @@ private:
             refuse(id, QStringLiteral("it has %1 letters, at most %2 fit")
                            .arg(QString::number(text.size()), QString::number(longest)));
         } else if (const QString lost = lostLetter(text); !lost.isEmpty()) {
-            refuse(id, QStringLiteral("the campaign's encoding can't hold \"%1\"").arg(lost));
+            refuse(id, QStringLiteral("the campaign's encoding can't hold %1").arg(named(lost)));
         } else {
             m_taken.emplace_back(place, text);
         }
+    }
+
+    // With its number too: where it is told it may be as unknown.
+    static QString named(const QString &letter)
+    {
+        const QString number = QString::number(letter.toUcs4().first(), 16).toUpper();
+        return QStringLiteral("\"%1\" (U+%2)").arg(letter, number.rightJustified(4, '0'));
     }
 
     // The first character that the campaign's encoding doesn't give back; empty if it does so with
@@ -114,7 +121,7 @@ private:
                 return letter;
             i += letter.size() - 1;
         }
-        return text; // only all together they don't come back
+        return text.left(1); // only all together they don't come back
     }
 
     void noteUnknown()

@@ -340,8 +340,9 @@ void TranslationImportTest::faultsLeaveTheCampaignAlone_data()
     row("campaign.name", QString(61, 'x'), "it has 61 letters, at most 60 fit");
     row("campaign.description", QString(301, 'x'), "it has 301 letters, at most 300 fit");
     row("scenario.1.region.text", QString(601, 'x'), "it has 601 letters, at most 600 fit");
-    row("scenario.1.prologue.1", "x\u0416y", "the campaign's encoding can't hold \"\u0416\"");
-    row("scenario.1.prologue.3", "x🏰", "the campaign's encoding can't hold \"🏰\"");
+    row("scenario.1.prologue.1", "x\u0416y",
+        "the campaign's encoding can't hold \"\u0416\" (U+0416)");
+    row("scenario.1.prologue.3", "x🏰", "the campaign's encoding can't hold \"🏰\" (U+1F3F0)");
     row("scenario.1.epilogue.2", "x\x1b", "it holds a control character");
 }
 
