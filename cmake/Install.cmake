@@ -38,10 +38,8 @@ set(manual ${PROJECT_SOURCE_DIR}/docs)
 
 cmped_compress(${packaging}/debian/changelog CMPED_CHANGELOG)
 foreach(page cmped.1 cmped-cli.1)
-    if(EXISTS ${manual}/man/${page})
-        cmped_compress(${manual}/man/${page} packed)
-        list(APPEND CMPED_MAN_PAGES ${packed})
-    endif()
+    cmped_compress(${manual}/man/${page} packed)
+    list(APPEND CMPED_MAN_PAGES ${packed})
 endforeach()
 add_custom_target(cmped_system_files ALL
     DEPENDS ${CMPED_CHANGELOG} ${CMPED_MAN_PAGES})
@@ -65,6 +63,9 @@ cmped_install_for_system(${share}/applications ${packaging}/desktop/cmped.deskto
 cmped_install_for_system(${share}/mime/packages ${packaging}/desktop/cmped.xml)
 cmped_install_for_system(${share}/metainfo ${packaging}/desktop/cmped.metainfo.xml)
 cmped_install_for_system(${share}/thumbnailers ${packaging}/desktop/cmped.thumbnailer)
+cmped_install_for_system(${share}/zsh/vendor-completions
+    ${packaging}/completions/_cmped
+    ${packaging}/completions/_cmped-cli)
 cmped_install_for_system(${CMAKE_INSTALL_MANDIR}/man1 ${CMPED_MAN_PAGES})
 cmped_install_for_system(${CMAKE_INSTALL_DOCDIR}
     ${manual}/manual.md
@@ -72,12 +73,7 @@ cmped_install_for_system(${CMAKE_INSTALL_DOCDIR}
     ${CMPED_CHANGELOG})
 
 # bash looks a program's completion up by the program's name alone.
-if(EXISTS ${packaging}/completions)
-    foreach(program cmped cmped-cli)
-        install(FILES ${packaging}/completions/${program}.bash RENAME ${program}
-            DESTINATION ${share}/bash-completion/completions COMPONENT system EXCLUDE_FROM_ALL)
-    endforeach()
-    cmped_install_for_system(${share}/zsh/vendor-completions
-        ${packaging}/completions/_cmped
-        ${packaging}/completions/_cmped-cli)
-endif()
+foreach(program cmped cmped-cli)
+    install(FILES ${packaging}/completions/${program}.bash RENAME ${program}
+        DESTINATION ${share}/bash-completion/completions COMPONENT system EXCLUDE_FROM_ALL)
+endforeach()

@@ -62,7 +62,7 @@ bool rememberChosenGame(const QString &folder)
 
 QString findGame(const QString &ownFolder)
 {
-    const QString named = qEnvironmentVariable("CMPED_GAME_DIR");
+    QString named = qEnvironmentVariable("CMPED_GAME_DIR");
     if (!named.isEmpty())
         return named;
     if (holdsGameFiles(ownFolder))

@@ -17,8 +17,7 @@ QString ownFolder()
 
 QString askedGame(const LauncherOptions &options)
 {
-    const QString folder =
-        askForGameFirst(options.editorArguments, chosenGame()).value_or(QString());
+    QString folder = askForGameFirst(options.editorArguments, chosenGame()).value_or(QString());
     if (!folder.isEmpty() && !rememberChosenGame(folder))
         complain("the game's folder can't be remembered in the settings");
     return folder;
@@ -27,7 +26,7 @@ QString askedGame(const LauncherOptions &options)
 // The folder named on the command line; empty if it isn't the game's.
 QString namedGame(const LauncherOptions &options)
 {
-    const QString folder = QDir(QFile::decodeName(options.game.c_str())).absolutePath();
+    QString folder = QDir(QFile::decodeName(options.game.c_str())).absolutePath();
     const QStringList missing = missingGameFiles(folder);
     if (missing.isEmpty())
         return folder;

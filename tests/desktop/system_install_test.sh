@@ -32,7 +32,10 @@ install_for_the_system() {
         share/applications/cmped.desktop share/mime/packages/cmped.xml \
         share/metainfo/cmped.metainfo.xml share/thumbnailers/cmped.thumbnailer \
         share/doc/cmped/manual.md share/doc/cmped/manual/en/main-window.png \
-        share/doc/cmped/copyright share/doc/cmped/changelog.gz; do
+        share/doc/cmped/copyright share/doc/cmped/changelog.gz \
+        share/man/man1/cmped.1.gz share/man/man1/cmped-cli.1.gz \
+        share/bash-completion/completions/cmped share/bash-completion/completions/cmped-cli \
+        share/zsh/vendor-completions/_cmped share/zsh/vendor-completions/_cmped-cli; do
         [ -s "$usr/$wanted" ] || fail "$wanted is missing"
     done
     [ -n "$(find "$usr/lib" -path '*/cmped/libcmped.so')" ] || fail "the library is missing"
@@ -70,7 +73,7 @@ is_of_type() {
 }
 
 files_have_their_types() {
-    local map
+    local map type
     map=$work/map.e3m
     gzip -c /dev/null >"$map"
     cp "$campaign" "$work/UPPER.E3C"
@@ -81,9 +84,9 @@ files_have_their_types() {
     is_of_type "$map" $map_type
     is_of_type "$work/campaign.gz" application/gzip
     is_of_type "$work/nameless" application/gzip
-    grep -qx "$campaign_type application/gzip" "$usr/share/mime/subclasses" &&
-        grep -qx "$map_type application/gzip" "$usr/share/mime/subclasses" ||
-        fail "the types are no packed files"
+    for type in $campaign_type $map_type; do
+        grep -qx "$type application/gzip" "$usr/share/mime/subclasses" || fail "$type is no packed file"
+    done
     [ "$(xdg-mime query default $campaign_type)" = cmped.desktop ] ||
         fail "campaigns are not opened by the editor"
     [ -z "$(xdg-mime query default $map_type)" ] || fail "maps are opened by an editor"

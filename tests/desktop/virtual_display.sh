@@ -21,8 +21,7 @@ pass() { echo "PASS: $*"; }
 
 # until_true COMMAND...: tries for up to 30 seconds.
 until_true() {
-    local i
-    for i in $(seq 300); do
+    for _ in $(seq 300); do
         "$@" >/dev/null 2>&1 && return 0
         sleep 0.1
     done
