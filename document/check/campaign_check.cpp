@@ -80,8 +80,7 @@ void checkMapNames(const CampaignData &campaign, Findings &findings)
         const auto [other, isNew] = first.emplace(name.toLower(), i);
         if (!isNew && campaign.scenarios[other->second].compressedMap != scenario.compressedMap)
             find(QStringLiteral("export writes \"%1\" over that of scenario %2")
-                     .arg(oneLine(name))
-                     .arg(other->second + 1));
+                     .arg(oneLine(name), QString::number(other->second + 1)));
     }
 }
 

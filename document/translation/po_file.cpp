@@ -172,7 +172,8 @@ private:
     {
         endEntryIfWhole();
         if (line.startsWith("#,")) {
-            for (const QByteArray &flag : line.mid(2).split(','))
+            const QList<QByteArray> flags = line.mid(2).split(',');
+            for (const QByteArray &flag : flags)
                 m_entry.fuzzy = m_entry.fuzzy || flag.trimmed() == "fuzzy";
         } else if (line.startsWith("#. ts-id ")) {
             m_entry.tsId = line.mid(int(std::strlen("#. ts-id "))).trimmed();

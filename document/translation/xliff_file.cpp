@@ -45,7 +45,7 @@ QStringRef localName(const QXmlStreamReader &xml)
     return name.mid(name.lastIndexOf(':') + 1);
 }
 
-bool isUnfinished(const QStringRef &state)
+bool isUnfinished(const QString &state)
 {
     return state == QLatin1String("new") || state.startsWith(QLatin1String("needs-"));
 }
@@ -128,7 +128,7 @@ public:
     TranslationReading read()
     {
         if (next() && enter() && localName(m_xml) == QLatin1String("xliff")) {
-            const QString version = attribute("version").toString();
+            const QString version = attribute("version");
             if (version.startsWith(QLatin1String("1.")))
                 readInside();
             else
@@ -179,13 +179,9 @@ private:
         return m_fault.isEmpty();
     }
 
-    QStringRef attribute(const char *name) const
+    QString attribute(const char *name) const
     {
-        for (const QXmlStreamAttribute &candidate : m_xml.attributes()) {
-            if (candidate.qualifiedName() == QLatin1String(name))
-                return candidate.value();
-        }
-        return {};
+        return m_xml.attributes().value(QLatin1String(name)).toString();
     }
 
     // Reads on to the end of the element at hand, units on the way included.
@@ -216,7 +212,7 @@ private:
         if (qint64(m_reading.units.size()) >= limits::translationUnits)
             fail(QStringLiteral("there are too many trans-units"));
         TranslationUnit unit;
-        unit.id = attribute("id").toString();
+        unit.id = attribute("id");
         const int outside = m_depth - 1;
         while (m_depth > outside && next()) {
             if (m_xml.isEndElement()) {
@@ -265,7 +261,7 @@ private:
 
     void takeControlCharacter(QString &text)
     {
-        const QStringRef type = attribute("ctype");
+        const QString type = attribute("ctype");
         if (type == QLatin1String("x-ch-n"))
             text += '\n';
         else if (type == QLatin1String("x-ch-r"))

@@ -230,8 +230,12 @@ void CampaignCheckTest::faultsOfScenariosAreTold_data()
         {"scenario.1.map: \"..\\maps/a.e3m\" is no bare name, export writes \"a.e3m\""});
     row("no name", [](Campaign &c) { c.records[0].mapFileName = "a/.."; },
         {"scenario.1.map: has no name that export could write it under"});
-    row("same name", [](Campaign &c) { c.records[2].mapFileName = "One.e3m"; },
-        {"scenario.3.map: export writes \"One.e3m\" over that of scenario 1"});
+    row("same name",
+        [](Campaign &c) {
+            c.records[0].mapFileName = "one%2.e3m";
+            c.records[2].mapFileName = "One%2.e3m";
+        },
+        {"scenario.3.map: export writes \"One%2.e3m\" over that of scenario 1"});
     row("name without a map", [](Campaign &c) { c.records[1].mapFileName = "a\n.e3m"; },
         {"scenario.2.map: \"a?.e3m\" is named, but there is no map"});
 }
