@@ -18,9 +18,10 @@
 #include <QTimer>
 
 #include <array>
-#include <ctime>
 #include <memory>
 #include <stdexcept>
+
+#include <sys/resource.h>
 
 namespace {
 
@@ -44,15 +45,16 @@ void answerWith(const QString &path)
     }
 }
 
-// The seconds that this thread computes: what the disk and other programs take isn't among them.
+// The seconds that this thread computes by itself: neither what other programs take is among them
+// nor what the system does for it, which is reading and writing.
 template<typename Work>
-rows::Measure processorTime(Work work)
+rows::Measure computing(Work work)
 {
     return [work = std::move(work)] {
         const auto now = [] {
-            timespec time{};
-            clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-            return double(time.tv_sec) + double(time.tv_nsec) / 1e9;
+            rusage usage{};
+            getrusage(RUSAGE_THREAD, &usage);
+            return double(usage.ru_utime.tv_sec) + double(usage.ru_utime.tv_usec) / 1e6;
         };
         const double before = now();
         work();
@@ -128,7 +130,7 @@ void addCommands(const std::string &of, const std::function<std::shared_ptr<Docu
     row.work = of + ": open";
     row.prepare = [=] {
         const std::shared_ptr<Document> document = make();
-        return rows::Pair{processorTime([=] { document->open(); }), second};
+        return rows::Pair{computing([=] { document->open(); }), second};
     };
     rows::add(row);
     for (const Command &command : commands) {
@@ -141,7 +143,7 @@ void addCommands(const std::string &of, const std::function<std::shared_ptr<Docu
                 document->carryOut("exportTexts");
             if (command.slot == std::string("refreshMaps"))
                 document->carryOut("exportMaps");
-            return rows::Pair{processorTime([=] { document->carryOut(command.slot); }), second};
+            return rows::Pair{computing([=] { document->carryOut(command.slot); }), second};
         };
         rows::add(row);
     }
