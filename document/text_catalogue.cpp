@@ -50,7 +50,7 @@ QString nameOfScenario(const CampaignData &campaign, unsigned int index)
     if (campaign.hasMap && index < unsigned(regions.size()))
         names << oneLine(regions[int(index)].name);
     names.removeAll(QString());
-    const QString number = QStringLiteral("Scenario %1").arg(index + 1);
+    QString number = QStringLiteral("Scenario %1").arg(index + 1);
     if (names.isEmpty())
         return number;
     return number + QStringLiteral(" (") + names.join(QStringLiteral(", ")) + QLatin1Char(')');

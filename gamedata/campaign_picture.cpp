@@ -44,7 +44,7 @@ QImage campaignBackground(const QString &name)
     const auto found = kept.constFind(name);
     if (found != kept.constEnd())
         return *found;
-    const QImage image = readBackground(name);
+    QImage image = readBackground(name);
     if (!image.isNull())
         kept.insert(name, image);
     return image;

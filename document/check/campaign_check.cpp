@@ -167,7 +167,7 @@ constexpr std::array<Check, 6> checks{checkNumbers,       checkTexts,     checkM
 std::optional<QString> checkCampaign(QFile &file, Findings &findings)
 {
     CampaignData campaign;
-    if (const std::optional<QString> failure = campaign.readCampaign(&file))
+    if (std::optional<QString> failure = campaign.readCampaign(&file))
         return failure;
     checkRecords(file, campaign, findings);
     for (const Check check : checks)
