@@ -60,7 +60,7 @@ private:
 
     QByteArray read(quint32 count)
     {
-        const QByteArray bytes = readBytes(m_stream, count);
+        QByteArray bytes = readBytes(m_stream, count);
         noteCut(quint32(bytes.size()) < count);
         return bytes;
     }

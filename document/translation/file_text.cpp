@@ -11,7 +11,7 @@ QString textOfFile(const QByteArray &bytes)
     if (codec && !bytes.startsWith(mark))
         return codec->toUnicode(bytes);
     const QByteArray utf8 = bytes.startsWith(mark) ? bytes.mid(mark.size()) : bytes;
-    const QString text = textFromUtf8(utf8);
+    QString text = textFromUtf8(utf8);
     if (text.toUtf8() != utf8)
         return {};
     return text.isNull() ? QLatin1String("") : text;

@@ -263,7 +263,7 @@ private:
 
     QString decoded(const QByteArray &bytes)
     {
-        const QString text = textFromUtf8(bytes);
+        QString text = textFromUtf8(bytes);
         if (text.toUtf8() != bytes)
             m_fault = QStringLiteral("this isn't UTF-8");
         return text;

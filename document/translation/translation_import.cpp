@@ -116,7 +116,7 @@ private:
         if (textFromBytes(bytesFromText(text)) == text)
             return {};
         for (int i = 0; i < text.size(); ++i) {
-            const QString letter = text.mid(i, text[i].isHighSurrogate() ? 2 : 1);
+            QString letter = text.mid(i, text[i].isHighSurrogate() ? 2 : 1);
             if (textFromBytes(bytesFromText(letter)) != letter)
                 return letter;
             i += letter.size() - 1;
