@@ -13,12 +13,15 @@ zpty -w shell 'compadd () {
     fi
     builtin compadd "$@"
 }'
-zpty -w shell "bindkey '^I' complete-word; unsetopt auto_menu; LISTMAX=10000; print REA''DY"
-zpty -r shell output '*READY*' || exit 8
+# Said once the line editor has the terminal: what is typed before would be the terminal's to edit.
+zpty -w shell 'zle-line-init () { print REA""DY }; zle -N zle-line-init'
+zpty -w shell "bindkey '^I' complete-word; unsetopt auto_menu; LISTMAX=10000"
+repeat 2; do
+    zpty -r shell output '*READY*' || exit 8
+done
 for line in "${@:2}"; do
-    zpty -n -w shell "$line"$'\t\C-u'
-    zpty -w shell "print DO''NE"
-    zpty -r shell output '*DONE*' || exit 7
+    zpty -w shell "$line"$'\t\C-u'
+    zpty -r shell output '*READY*' || exit 7
     print -r -- "== $line"
     print -r -- "$output" | tr -d '\r' | sed -n 's/^.*HIT://p'
 done
