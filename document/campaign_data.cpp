@@ -7,9 +7,7 @@
 
 namespace {
 
-constexpr quint32 newestVersion = 10;
 constexpr quint8 defaultMusic = 34;
-constexpr int heroKeepsBits = 5;
 constexpr int heroKeepsSet = 4; // the first of them
 constexpr int defaultPrerequisites = 12;
 
@@ -59,7 +57,7 @@ void CampaignData::initDummyCampaign(unsigned int newMapId, bool newHasMap,
                                      unsigned int newCustomValue, unsigned int newScenarioCount)
 {
     clear();
-    version = newestVersion;
+    version = newestCampaignVersion;
     mapId = quint8(newMapId);
     name.clear();
     description.clear();

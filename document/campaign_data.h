@@ -25,6 +25,9 @@ class CampaignData;
 class QDataStream;
 class QFile;
 
+constexpr quint32 newestCampaignVersion = 10; // of the file format: what is written
+constexpr int heroKeepsBits = 5;
+
 struct CmpPrologue
 {
     quint8 videoId = 0;
@@ -34,7 +37,7 @@ struct CmpPrologue
 
 struct CmpScenarioCrossover
 {
-    QBitArray heroKeeps; // 5 bits
+    QBitArray heroKeeps; // heroKeepsBits
     QBitArray artifacts; // EditorData::nArtifacts bits
     QBitArray creatures; // EditorData::nCreatures bits
 };

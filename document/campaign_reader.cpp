@@ -35,7 +35,6 @@
 
 namespace {
 
-constexpr quint32 newestVersion = 10;
 constexpr quint32 newestSubversion = 1;
 // What gzip puts around the packed bytes, 18 bytes, without what zlib's own frame takes, 6.
 constexpr qint64 frameDifference = 12;
@@ -50,7 +49,7 @@ QString wrongVersion(quint32 version)
     return mainWindowText(QT_TRANSLATE_NOOP("MainWindow", "Invalid campaign file version!\n\n"
                                                           "File version = %1\n"
                                                           "Current version = %2"))
-        .arg(QString::number(version), QString::number(newestVersion));
+        .arg(QString::number(version), QString::number(newestCampaignVersion));
 }
 
 QString wrongSubversion(quint32 subversion)
@@ -110,18 +109,19 @@ private:
     std::optional<QString> readVersion()
     {
         const auto version = readNumber<quint32>(m_stream);
-        if (version != 5 && version != 6 && version != newestVersion)
+        if (version != 5 && version != 6 && version != newestCampaignVersion)
             return wrongVersion(version);
         m_campaign.version = version;
         m_campaign.hasMap = true;
-        if (version == newestVersion) {
+        if (version == newestCampaignVersion) {
             const auto subversion = readNumber<quint32>(m_stream);
             if (subversion > newestSubversion)
                 return wrongSubversion(subversion);
             m_campaign.hasMap = readNumber<quint8>(m_stream) != 0;
         }
-        m_campaign.customValue = version == newestVersion ? readNumber<qint32>(m_stream) : 0;
-        const quint32 count = version == newestVersion ? readNumber<quint32>(m_stream) : 0;
+        m_campaign.customValue =
+            version == newestCampaignVersion ? readNumber<qint32>(m_stream) : 0;
+        const quint32 count = version == newestCampaignVersion ? readNumber<quint32>(m_stream) : 0;
         if (!m_campaign.hasMap && count > limits::scenarios)
             return damaged();
         m_campaign.scenarioCount = count;

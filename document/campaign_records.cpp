@@ -26,9 +26,6 @@
 
 namespace {
 
-constexpr unsigned heroKeepsBits = 5;
-constexpr quint32 newestVersion = 10;
-
 struct CrossoverBits
 {
     unsigned int creatures;
@@ -46,7 +43,7 @@ CrossoverBits crossoverBits(quint32 version)
 
 void readStories(QDataStream &stream, quint32 version, ScenarioData::Prologues &stories)
 {
-    const size_t count = version >= newestVersion ? stories.size() : 1;
+    const size_t count = version >= newestCampaignVersion ? stories.size() : 1;
     for (size_t i = 0; i < count; ++i)
         ReadPrologueEpilogue(stream, stories[i]);
 }

@@ -12,7 +12,6 @@
 
 namespace {
 
-constexpr quint32 version = 10;
 constexpr quint32 subversion = 1;
 
 // The bytes of a scenario's map: what the record promises, or less if less is there.
@@ -58,7 +57,8 @@ public:
 private:
     void writeHead(QDataStream &stream)
     {
-        stream << version << subversion << quint8(m_campaign.hasMap) << m_campaign.customValue
+        stream << newestCampaignVersion << subversion << quint8(m_campaign.hasMap)
+               << m_campaign.customValue
                << quint32(m_campaign.hasMap ? m_campaign.scenarioCount : m_count)
                << quint8(m_campaign.mapId + 1);
         WriteHString4(stream, m_campaign.name);

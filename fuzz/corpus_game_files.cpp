@@ -12,7 +12,7 @@ using packing::zlibStream;
 
 constexpr quint32 headerSize = 92;
 constexpr quint32 entrySize = 32;
-constexpr quint32 absurdCount = 0x7fffffff;
+constexpr quint32 largestInt = 0x7fffffff;
 
 ByteWriter archiveHead(quint32 fileCount)
 {
@@ -114,14 +114,14 @@ std::vector<File> archives()
         {"name_without_end", nameWithoutEnd()},
         {"corrupt_stream", oneFile("not a stream at all", data, 40, 19)},
         {"stream_longer_than_size", oneFile(stream, data, 3, streamSize)},
-        {"hostile_count_2g", archiveHead(absurdCount).bytes()},
+        {"hostile_count_2g", archiveHead(largestInt).bytes()},
         {"hostile_count_negative", archiveHead(0xffffffff).bytes()},
         {"hostile_offset_4g", oneFile("hi", 0xffffffff, 2, 0)},
-        {"hostile_size_2g", oneFile("hi", data, absurdCount, 0)},
+        {"hostile_size_2g", oneFile("hi", data, largestInt, 0)},
         {"hostile_size_negative", oneFile("hi", data, 0xffffffff, 0)},
-        {"hostile_packed_size_2g", oneFile(stream, data, 11, absurdCount)},
+        {"hostile_packed_size_2g", oneFile(stream, data, 11, largestInt)},
         {"hostile_packed_size_negative", oneFile(stream, data, 11, 0xffffffff)},
-        {"hostile_unpacked_size_2g", oneFile(stream, data, absurdCount, streamSize)},
+        {"hostile_unpacked_size_2g", oneFile(stream, data, largestInt, streamSize)},
         {"hostile_bomb", oneFile(bomb, data, 1000000, quint32(bomb.size()))},
     };
 }
@@ -132,15 +132,15 @@ std::vector<File> tableFiles()
         {"sound", soundTable()},
         {"other_magic", "RDAX" + soundTable().mid(4)},
         {"number_out_of_range", tableHead(1).text("art99999999999999999999").text("").bytes()},
-        {"hostile_entries_2g", tableHead(absurdCount).text("art5").bytes()},
+        {"hostile_entries_2g", tableHead(largestInt).text("art5").bytes()},
         {"hostile_entries_negative", tableHead(0xffffffff).text("art5").bytes()},
-        {"hostile_strings_2g", tableWithStrings(absurdCount)},
+        {"hostile_strings_2g", tableWithStrings(largestInt)},
         {"hostile_strings_negative", tableWithStrings(0x80000000)},
-        {"hostile_ints_2g", tableWithInts(absurdCount)},
+        {"hostile_ints_2g", tableWithInts(largestInt)},
         {"hostile_ints_negative", tableWithInts(0x80000000)},
-        {"hostile_blob_2g", tableWithBlob(absurdCount)},
+        {"hostile_blob_2g", tableWithBlob(largestInt)},
         {"hostile_blob_negative", tableWithBlob(0x80000000)},
-        {"hostile_name_2g", tableHead(1).u32(absurdCount).raw("art").bytes()},
+        {"hostile_name_2g", tableHead(1).u32(largestInt).raw("art").bytes()},
     };
 }
 

@@ -14,7 +14,6 @@
 
 namespace {
 
-constexpr quint32 newestVersion = 10;
 constexpr quint8 lastOptionType = 3;
 // What follows a bonus's type in the file, by the type.
 constexpr std::array<quint32, 8> bonusBytes{3, 6, 1, 4, 3, 6, 4, 5};
@@ -84,7 +83,7 @@ private:
     void readHead()
     {
         m_version = readInt();
-        if (m_version == newestVersion) {
+        if (m_version == newestCampaignVersion) {
             readInt();
             readFlag("the flag for a campaign map");
             readInt();
@@ -132,7 +131,7 @@ private:
         readStories("prologue");
         readStories("epilogue");
         readBits(5, 5, "things that heroes keep");
-        const bool newest = m_version == newestVersion;
+        const bool newest = m_version == newestCampaignVersion;
         readBits(newest ? EditorData::nCreatures : 145, EditorData::nCreatures, "creatures");
         readBits(newest           ? EditorData::nArtifacts
                  : m_version == 5 ? 129
@@ -158,7 +157,7 @@ private:
 
     void readStories(const char *name)
     {
-        const int count = m_version == newestVersion ? 3 : 1;
+        const int count = m_version == newestCampaignVersion ? 3 : 1;
         for (int i = 1; i <= count; ++i) {
             const quint8 present = readByte();
             if (present > 1) {

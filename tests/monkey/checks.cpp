@@ -15,7 +15,6 @@
 
 namespace {
 
-constexpr int heroKeepsBits = 5;
 constexpr int itemKind = 256;
 constexpr int regionKind = 1;
 

@@ -15,7 +15,6 @@
 
 namespace {
 
-constexpr quint32 newestVersion = 10;
 constexpr unsigned int bonusOption = 1;
 constexpr unsigned int heroOption = 3;
 constexpr unsigned int playerCount = 8;
@@ -77,7 +76,7 @@ void storeEmptyHeroList(ScenarioData &scenario)
 // What isn't stored, or is stored in one shape whatever it was before.
 void shapeAsStored(CampaignData &campaign)
 {
-    campaign.version = newestVersion;
+    campaign.version = newestCampaignVersion;
     campaign.spareFlag = false;
     campaign.spareCounter = 0;
     campaign.scenarioCount = 0; // follows from the map or from the scenarios themselves

@@ -6,7 +6,7 @@ namespace sample {
 
 namespace {
 
-constexpr int kNewest = 10;
+constexpr int kNewestCampaign = 10;
 constexpr int kStories = 3;
 constexpr int kHeroKeeps = 5;
 constexpr int kOldCreatures = 145; // versions 5 and 6
@@ -24,7 +24,7 @@ TableSizes sizesOf(int version, const TableSizes &newest)
 
 void addStories(ByteSink &sink, const std::vector<Story> &stories, int version)
 {
-    const int count = version == kNewest ? kStories : 1;
+    const int count = version == kNewestCampaign ? kStories : 1;
     for (int i = 0; i < count; ++i) {
         if (i >= int(stories.size())) {
             sink.u8(0);
@@ -115,7 +115,7 @@ QByteArray campaignHeader(const CampaignPlan &plan, const TableSizes &sizes)
 {
     ByteSink sink;
     sink.i32(plan.version);
-    if (plan.version == kNewest) {
+    if (plan.version == kNewestCampaign) {
         sink.i32(plan.subVersion);
         sink.u8(plan.hasMap ? 1 : 0);
         sink.i32(plan.background);
