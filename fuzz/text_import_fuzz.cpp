@@ -5,8 +5,8 @@
 #include "document/text_exchange.h"
 #include "fuzz/memory_file.h"
 #include "fuzz/quiet_start.h"
+#include "fuzz/system_codecs.h"
 #include "fuzz/time_limit.h"
-#include "gamedata/locale_codec.h"
 
 #include <QFile>
 #include <QTextCodec>
@@ -22,18 +22,6 @@ namespace {
 constexpr std::array<const char *, 8> encodings{"UTF-8",  "Windows-1251", "Windows-1252", "GB18030",
                                                 "EUC-KR", "Big5",         "Shift_JIS",    "TSCII"};
 constexpr unsigned mapOfThreeRegions = 24;
-
-// The codecs as the program's start sets them. One that it refuses would leave nothing to import.
-std::array<QTextCodec *, encodings.size()> codecs()
-{
-    std::array<QTextCodec *, encodings.size()> set;
-    for (size_t i = 0; i < encodings.size(); ++i) {
-        if (!setLocaleCodec(QLatin1String(encodings[i])))
-            abort();
-        set[i] = QTextCodec::codecForLocale();
-    }
-    return set;
-}
 
 // Two scenarios with maps and one without, with prologues and epilogues here and there.
 CampaignData campaignWithTexts()
@@ -64,10 +52,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     static const QuietStart start(fillSmallTables);
     const TimeLimit limit;
     static MemoryFile memory;
-    static const auto all = codecs();
+    static const auto codecs = systemCodecs(encodings);
     if (size == 0)
         return 0;
-    QTextCodec::setCodecForLocale(all[data[0] % all.size()]);
+    QTextCodec::setCodecForLocale(codecs[data[0] % codecs.size()]);
     const auto bytes =
         QByteArray::fromRawData(reinterpret_cast<const char *>(data) + 1, int(size) - 1);
     if (bytesFromText(textFromBytes(bytes)) != bytes)

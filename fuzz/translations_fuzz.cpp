@@ -5,9 +5,9 @@
 #include "document/translation/translation_file.h"
 #include "document/translation/translation_import.h"
 #include "fuzz/quiet_start.h"
+#include "fuzz/system_codecs.h"
 #include "fuzz/time_limit.h"
 #include "gamedata/limits.h"
-#include "gamedata/locale_codec.h"
 
 #include <QTextCodec>
 
@@ -22,17 +22,6 @@ namespace {
 constexpr std::array<const char *, 3> encodings{"UTF-8", "Windows-1252", "Shift_JIS"};
 constexpr unsigned mapOfThreeRegions = 24;
 constexpr int longestRegionText = 600;
-
-std::array<QTextCodec *, encodings.size()> codecs()
-{
-    std::array<QTextCodec *, encodings.size()> set;
-    for (size_t i = 0; i < encodings.size(); ++i) {
-        if (!setLocaleCodec(QLatin1String(encodings[i])))
-            abort();
-        set[i] = QTextCodec::codecForLocale();
-    }
-    return set;
-}
 
 CampaignData campaignWithTexts()
 {
@@ -84,11 +73,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     static const QuietStart start(fillSmallTables);
     const TimeLimit limit;
-    static const auto all = codecs();
+    static const auto codecs = systemCodecs(encodings);
     static const QStringList names = translationFormatNames();
     if (size == 0)
         return 0;
-    QTextCodec::setCodecForLocale(all[data[0] / 8 % all.size()]);
+    QTextCodec::setCodecForLocale(codecs[data[0] / 8 % codecs.size()]);
     const TranslationFormat &format = *translationFormat(names[data[0] % names.size()]);
     const bool force = data[0] & 4;
     const TranslationReading reading =
