@@ -1,6 +1,7 @@
 #include "campaign_dialogs/convert_campaign.h"
 
 #include "campaign_dialogs/background_preview.h"
+#include "campaign_dialogs/map_choice.h"
 #include "document/campaign_conversion.h"
 #include "document/campaign_data.h"
 #include "document/prerequisites.h"
@@ -14,9 +15,6 @@
 #include <algorithm>
 
 namespace {
-
-constexpr int idRole = Qt::UserRole;
-constexpr int firstMap = 24; // offered before all others
 
 unsigned int regionCountOf(unsigned int mapId)
 {

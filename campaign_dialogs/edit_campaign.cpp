@@ -1,6 +1,7 @@
 #include "campaign_dialogs/edit_campaign.h"
 
 #include "campaign_dialogs/background_preview.h"
+#include "campaign_dialogs/map_choice.h"
 #include "document/campaign_conversion.h"
 #include "document/campaign_data.h"
 #include "gamedata/editor_data.h"
@@ -19,7 +20,6 @@
 
 namespace {
 
-constexpr int firstMap = 24; // offered before all others
 constexpr int longestName = 60;
 constexpr int longestDescription = 300;
 constexpr int playButtonText = 55;

@@ -1,13 +1,13 @@
 #include "campaign_dialogs/new_campaign.h"
 
 #include "campaign_dialogs/background_preview.h"
+#include "campaign_dialogs/map_choice.h"
 #include "gamedata/editor_data.h"
 #include "shell/dialog_look.h"
 #include "ui_newcampaign.h"
 
 namespace {
 
-constexpr int idRole = Qt::UserRole;
 constexpr int defaultMap = 24;
 constexpr int highestOfferedLayout = 1;
 

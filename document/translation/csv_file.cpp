@@ -18,7 +18,7 @@ constexpr char sourceColumn[] = "source";
 constexpr char translationColumn[] = "translation";
 constexpr int mostColumns = 1000;
 
-QByteArray quoted(const QString &text)
+QByteArray quotedField(const QString &text)
 {
     return '"' + text.toUtf8().replace('"', "\"\"") + '"';
 }
@@ -153,8 +153,8 @@ QByteArray writtenAsCsv(const std::vector<TranslationUnit> &units)
     QByteArray file = byteOrderMark + QByteArray(idColumn) + ',' + contextColumn + ',' +
                       sourceColumn + ',' + translationColumn + "\r\n";
     for (const TranslationUnit &unit : units) {
-        file += quoted(unit.id) + ',' + quoted(unit.context) + ',' + quoted(unit.source) + ',' +
-                quoted(unit.translation) + "\r\n";
+        file += quotedField(unit.id) + ',' + quotedField(unit.context) + ',' +
+                quotedField(unit.source) + ',' + quotedField(unit.translation) + "\r\n";
     }
     return file;
 }

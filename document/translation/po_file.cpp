@@ -34,7 +34,7 @@ constexpr char header[] = "msgid \"\"\n"
                           "\"Content-Type: text/plain; charset=UTF-8\\n\"\n"
                           "\"Content-Transfer-Encoding: 8bit\\n\"\n";
 
-QByteArray quoted(const QString &text)
+QByteArray quotedLine(const QString &text)
 {
     QByteArray bytes = text.toUtf8();
     bytes.replace('\\', "\\\\").replace('"', "\\\"").replace('\t', "\\t").replace('\n', "\\n");
@@ -47,14 +47,14 @@ void writeText(QByteArray &file, const char *keyword, const QString &text)
     file += keyword;
     const int first = text.indexOf('\n');
     if (first < 0 || first == text.size() - 1) {
-        file += quoted(text);
+        file += quotedLine(text);
         return;
     }
     file += "\"\"\n";
     for (int begin = 0; begin < text.size();) {
         const int end = text.indexOf('\n', begin);
         const int next = end < 0 ? text.size() : end + 1;
-        file += quoted(text.mid(begin, next - begin));
+        file += quotedLine(text.mid(begin, next - begin));
         begin = next;
     }
 }
@@ -122,10 +122,10 @@ bool takeQuoted(const QByteArray &part, QByteArray &text)
     return false;
 }
 
-class Reader
+class PoReader
 {
 public:
-    explicit Reader(const QByteArray &bytes) : m_bytes(bytes) {}
+    explicit PoReader(const QByteArray &bytes) : m_bytes(bytes) {}
 
     TranslationReading read()
     {
@@ -294,5 +294,5 @@ QByteArray writtenAsPo(const std::vector<TranslationUnit> &units)
 
 TranslationReading readPo(const QByteArray &bytes)
 {
-    return Reader(bytes).read();
+    return PoReader(bytes).read();
 }

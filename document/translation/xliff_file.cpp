@@ -115,10 +115,10 @@ private:
     QString m_fault;
 };
 
-class Reader
+class XliffReader
 {
 public:
-    explicit Reader(const QString &text) : m_xml(text)
+    explicit XliffReader(const QString &text) : m_xml(text)
     {
         // Names are told apart without their prefixes, which would have to be looked for in all
         // declarations around.
@@ -311,5 +311,5 @@ TranslationReading readXliff(const QByteArray &bytes)
         return {{}, QStringLiteral("the file isn't in UTF-8")};
     Inspector inspector(text);
     const QString fault = inspector.fault();
-    return fault.isEmpty() ? Reader(text).read() : unreadable(inspector.line(), fault);
+    return fault.isEmpty() ? XliffReader(text).read() : unreadable(inspector.line(), fault);
 }

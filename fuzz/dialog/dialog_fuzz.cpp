@@ -5,6 +5,7 @@
 #include "fuzz/quiet_start.h"
 #include "fuzz/time_limit.h"
 #include "gamedata/editor_data.h"
+#include "scenario/option_page.h"
 #include "scenario/scenario_info.h"
 #include "tests/monkey/stored_campaign.h"
 #include "tests/support/tiny_game.h"
@@ -22,7 +23,6 @@
 
 namespace {
 
-constexpr unsigned int bonusOption = 1;
 constexpr quint8 bonusTypes = 8;
 // More of them teach nothing new, and each takes its time.
 constexpr size_t mostScenarios = 8;
@@ -60,7 +60,7 @@ private:
 // The program ends, and is meant to, over a bonus of a type that it can't word.
 bool endsTheProgram(const ScenarioData &scenario)
 {
-    if (!scenario.startOptions || scenario.startOptions->optionType != bonusOption)
+    if (!scenario.startOptions || scenario.startOptions->optionType != BonusOption)
         return false;
     const auto set = scenario.startOptions->optionData.value<StartingBonusSet>();
     return std::any_of(set.bonuses.begin(), set.bonuses.end(),

@@ -4,6 +4,7 @@
 #include "cli/json_writer.h"
 #include "cli/standard_output.h"
 #include "gamedata/editor_data.h"
+#include "scenario/option_page.h"
 #include "tests/monkey/recorded_output.h"
 
 #include <QFile>
@@ -15,8 +16,6 @@
 
 namespace {
 
-constexpr unsigned int bonusOption = 1;
-constexpr unsigned int heroOption = 3;
 constexpr unsigned int playerCount = 8;
 
 // A map that is one gzip member to its last byte, of a size that no limit touches. Authors may
@@ -59,7 +58,7 @@ void chainScenarios(std::vector<ScenarioData> &scenarios)
 void storeEmptyHeroList(ScenarioData &scenario)
 {
     const CmpScenarioStartOptions *options = scenario.startOptions.get();
-    if (!options || options->optionType != heroOption ||
+    if (!options || options->optionType != HeroOption ||
         !options->optionData.value<StartingHeroSet>().entries.empty())
         return;
     StartingBonusSet set;
@@ -70,7 +69,7 @@ void storeEmptyHeroList(ScenarioData &scenario)
         break;
     }
     scenario.startOptions = std::make_shared<CmpScenarioStartOptions>(
-        CmpScenarioStartOptions{bonusOption, QVariant::fromValue(set)});
+        CmpScenarioStartOptions{BonusOption, QVariant::fromValue(set)});
 }
 
 // What isn't stored, or is stored in one shape whatever it was before.

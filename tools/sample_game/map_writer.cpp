@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kOldest = 14; // has the fewest fields
 constexpr int kWordTowns = 21;
-constexpr int kNewest = 32; // counts its heroes itself
+constexpr int kCountingHeroes = 32; // itself tells how many
 constexpr int kSkipped = 31;
 constexpr int kOldestHeroes = 128;
 constexpr int kOlderHeroes = 160;
@@ -102,7 +102,7 @@ void addTeams(ByteSink &sink, const MapPlan &plan)
 void addAvailableHeroes(ByteSink &sink, const MapPlan &plan)
 {
     int count = plan.version == kOldest ? kOldestHeroes : kOlderHeroes;
-    if (plan.version >= kNewest) {
+    if (plan.version >= kCountingHeroes) {
         count = kNewestHeroes;
         sink.i32(count);
     }
@@ -140,7 +140,7 @@ QByteArray mapContent(const MapPlan &plan)
 {
     ByteSink sink;
     sink.i32(plan.version);
-    if (plan.version >= kNewest)
+    if (plan.version >= kCountingHeroes)
         addExtension(sink, plan.subVersion);
     sink.u8(plan.anyPlayers ? 1 : 0);
     sink.i32(plan.dimension);
