@@ -1,15 +1,29 @@
-# cmped_room(NAME SOURCES ... LINKS ...): one folder of the house, a static library. Qt's headers are
-# compiled once for it. Whether each file includes what it needs is seen by scripts/lint.sh, which
-# goes without them.
+# Qt's headers, compiled once for all that share a set of options. Whether each file includes what it
+# needs is seen by scripts/lint.sh, which goes without them.
+function(cmped_qt_headers name header library)
+    add_library(${name} OBJECT ${PROJECT_SOURCE_DIR}/cmake/qt_headers.cpp)
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+    target_link_libraries(${name} PRIVATE cmped_options ${library})
+    target_precompile_headers(${name} PRIVATE ${header})
+endfunction()
+cmped_qt_headers(cmped_core_headers <QtCore> Qt5::Core)
+cmped_qt_headers(cmped_widgets_headers <QtWidgets> Qt5::Widgets)
+
+# cmped_uses_qt(NAME LINKS ...): has a target use them as far as it links Qt.
+function(cmped_uses_qt name)
+    if("${ARGN}" MATCHES "cmped_(dialogs|scenario|widgets)|Qt5::Widgets")
+        target_precompile_headers(${name} REUSE_FROM cmped_widgets_headers)
+    elseif("${ARGN}" MATCHES "cmped|Qt5")
+        target_precompile_headers(${name} REUSE_FROM cmped_core_headers)
+    endif()
+endfunction()
+
+# cmped_room(NAME SOURCES ... LINKS ...): one folder of the house, a static library.
 function(cmped_room name)
     cmake_parse_arguments(ROOM "" "" "SOURCES;LINKS" ${ARGN})
     add_library(${name} STATIC ${ROOM_SOURCES})
     target_link_libraries(${name} PUBLIC cmped_options ${ROOM_LINKS})
-    if("${ROOM_LINKS}" MATCHES "cmped_(dialogs|scenario|widgets)|Qt5::Widgets")
-        target_precompile_headers(${name} PRIVATE <QtWidgets>)
-    elseif("${ROOM_LINKS}" MATCHES "cmped|Qt5")
-        target_precompile_headers(${name} PRIVATE <QtCore>)
-    endif()
+    cmped_uses_qt(${name} ${ROOM_LINKS})
 endfunction()
 
 # What LeakSanitizer is told by tests that show windows: which leaks are not ours.
@@ -29,7 +43,7 @@ function(cmped_test name)
     qt5_generate_moc(${name}.cpp ${moc_output})
     add_executable(${name} ${name}.cpp ${moc_output})
     target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
-    set_target_properties(${name} PROPERTIES AUTOMOC OFF)
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF UNITY_BUILD OFF)
     target_link_libraries(${name} PRIVATE cmped_test_support ${TEST_LINKS} Qt5::Test)
     # A test's main() knows windows only if the precompiled headers do.
     if(TEST_LINKS MATCHES "cmped_(dialogs|scenario|shell|widget)|manual_scenes|Qt5::Widgets")

@@ -1,0 +1,1 @@
+// Nothing: what is compiled with it is the headers.
