@@ -5,7 +5,7 @@
 #include "gamedata/file_name.h"
 #include "gamedata/readable_file.h"
 #include "gamedata/report.h"
-#include "gamedata/safe_save.h"
+#include "gamedata/safe_saves.h"
 
 #include <QDebug>
 #include <QFile>
@@ -41,6 +41,7 @@ bool isSameFile(const QString &path, const QString &other)
 void exportMapsTo(const QString &folder, const CampaignData &campaign, const QString &campaignFile,
                   const TellMapFailure &tell)
 {
+    SafeSaves saves;
     for (const ScenarioData &scenario : campaign.scenarios) {
         const QString name = bareMapFileName(scenario.mapFileName);
         if (name.isEmpty() || scenario.compressedMap.isEmpty())
@@ -48,7 +49,7 @@ void exportMapsTo(const QString &folder, const CampaignData &campaign, const QSt
         const QString path = pathOf(folder, name);
         const SaveResult result = isSameFile(path, campaignFile)
                                       ? SaveResult{false, qt_error_string(EEXIST)}
-                                      : saveFileSafely(path, {scenario.compressedMap});
+                                      : saves.save(path, {scenario.compressedMap});
         if (!result.ok) {
             tell(mainWindowText(QT_TRANSLATE_NOOP("MainWindow", "Cannot write file %1:\n%2."))
                      .arg(path, result.error));

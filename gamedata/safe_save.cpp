@@ -1,6 +1,7 @@
 #include "gamedata/safe_save.h"
 
 #include "gamedata/file_name.h"
+#include "gamedata/safe_saves.h"
 #include "gamedata/second_file.h"
 
 #include <QFile>
@@ -92,10 +93,11 @@ bool onlyInPlace(int code)
 }
 
 // Writes a second file and lets it take the target's place.
-int saveBeside(const fs::path &path, const struct stat *old, const std::vector<QByteArray> &pieces)
+int saveBeside(const fs::path &path, const struct stat *old, const std::vector<QByteArray> &pieces,
+               SweptFolders &swept)
 {
     SecondFile second(folderOf(path));
-    if (const int code = second.open(old ? old->st_mode & 0777 : modeOfNewFiles))
+    if (const int code = second.open(old ? old->st_mode & 0777 : modeOfNewFiles, swept))
         return code;
     if (const int code = second.file().writeFromStart(pieces))
         return code;
@@ -155,6 +157,11 @@ int overwrite(const fs::path &path, const std::vector<QByteArray> &pieces)
 
 SaveResult saveFileSafely(const QString &path, const std::vector<QByteArray> &pieces)
 {
+    return SafeSaves().save(path, pieces);
+}
+
+SaveResult SafeSaves::save(const QString &path, const std::vector<QByteArray> &pieces)
+{
     if (!namesOneFile(path))
         return resultOf(EILSEQ);
     fs::path target(QFile::encodeName(path).toStdString());
@@ -176,6 +183,6 @@ SaveResult saveFileSafely(const QString &path, const std::vector<QByteArray> &pi
     const auto mayWrite = [&] { return faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS); };
     if (const int forbidden = exists ? errorOf(mayWrite) : 0)
         return resultOf(forbidden);
-    const int code = saveBeside(target, exists ? &old : nullptr, pieces);
+    const int code = saveBeside(target, exists ? &old : nullptr, pieces, m_swept);
     return resultOf(exists && onlyInPlace(code) ? overwrite(target, pieces) : code);
 }

@@ -65,6 +65,12 @@ std::string nameOfHandle(const DiskFile &file)
 
 } // namespace
 
+void SweptFolders::sweep(const fs::path &folder)
+{
+    if (m_done.insert(folder).second)
+        removeLeftovers(folder);
+}
+
 SecondFile::~SecondFile()
 {
     if (!m_hidden.empty())
@@ -72,9 +78,9 @@ SecondFile::~SecondFile()
 }
 
 // What is left behind goes first: it may take the room that the new file needs.
-int SecondFile::open(mode_t mode)
+int SecondFile::open(mode_t mode, SweptFolders &swept)
 {
-    removeLeftovers(m_folder);
+    swept.sweep(m_folder);
     return openNameless(mode) ? 0 : openHidden(mode);
 }
 

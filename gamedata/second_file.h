@@ -3,12 +3,25 @@
 // Where the file system has files without a name it is one, and a process that is killed leaves
 // nothing behind. Elsewhere, and for the moment in which it replaces another file, it has the
 // hidden name ".cmped-save-" and six letters. What a killed process leaves under such a name is
-// removed by the next save into the folder; that a file is still in use tells a lock (flock) on it.
+// removed by the next command that saves into the folder; that a file is still in use tells a lock
+// (flock) on it.
 #pragma once
 
 #include "gamedata/disk_file.h"
 
 #include <filesystem>
+#include <set>
+
+// The folders in which one command has removed what killed processes left.
+class SweptFolders
+{
+public:
+    // Removes it unless that was done before.
+    void sweep(const std::filesystem::path &folder);
+
+private:
+    std::set<std::filesystem::path> m_done;
+};
 
 class SecondFile
 {
@@ -20,7 +33,7 @@ public:
     SecondFile &operator=(const SecondFile &) = delete;
 
     // All answer 0 or the system's error number.
-    int open(mode_t mode);
+    int open(mode_t mode, SweptFolders &swept);
     int replace(const std::filesystem::path &target, bool exists);
 
     const DiskFile &file() const { return m_file; }

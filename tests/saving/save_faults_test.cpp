@@ -3,9 +3,13 @@
 #include "tests/saving/saving_place.h"
 #include "tests/saving/saving_window.h"
 
+#include "document/map_exchange.h"
 #include "gamedata/ini_file.h"
+#include "gamedata/safe_saves.h"
 
 #include <QtTest>
+
+#include <algorithm>
 
 class SaveFaultsTest : public QObject
 {
@@ -20,6 +24,9 @@ private slots:
     void theSettingsSurviveEveryFault();
     void theBytesAreOnTheDiskBeforeTheNameIs_data();
     void theBytesAreOnTheDiskBeforeTheNameIs();
+    void mapsAreExportedWithTheirFolderListedOnce_data();
+    void mapsAreExportedWithTheirFolderListedOnce();
+    void everyFolderOfManySavesIsRidOfLeftovers();
 
 private:
     // One save with the fault in this call; false if there is no such call any more.
@@ -32,6 +39,9 @@ private:
 };
 
 namespace {
+
+// What a process may leave that is killed while it saves.
+const QString leftover = QStringLiteral(".cmped-save-abc123");
 
 void addPlaces()
 {
@@ -203,6 +213,54 @@ void SaveFaultsTest::theBytesAreOnTheDiskBeforeTheNameIs()
         expected << "fsync folder";
     }
     QCOMPARE(order, expected);
+}
+
+void SaveFaultsTest::mapsAreExportedWithTheirFolderListedOnce_data()
+{
+    QTest::addColumn<int>("maps");
+    QTest::addColumn<bool>("there");
+    for (const int maps : {1, 2, 40}) {
+        QTest::addRow("%d new files", maps) << maps << false;
+        QTest::addRow("%d existing files", maps) << maps << true;
+    }
+}
+
+void SaveFaultsTest::mapsAreExportedWithTheirFolderListedOnce()
+{
+    QFETCH(int, maps);
+    QFETCH(bool, there);
+    const QTemporaryDir folder;
+    CampaignData campaign;
+    campaign.scenarios.resize(std::size_t(maps));
+    QStringList expected;
+    for (ScenarioData &scenario : campaign.scenarios) {
+        expected << QStringLiteral("%1.e3m").arg(expected.size(), 2, 10, QLatin1Char('0'));
+        scenario.mapFileName = expected.last();
+        scenario.compressedMap = "map";
+        QVERIFY(!there || makeFile(folder.filePath(expected.last()), "old"));
+    }
+    QVERIFY(makeFile(folder.filePath(leftover), "left"));
+    armFaults({QFile::encodeName(folder.path()).toStdString()});
+    exportMapsTo(folder.path(), campaign, {}, [](const QString &text) { QFAIL(qPrintable(text)); });
+    const std::vector<std::string> calls = disarmFaults();
+    // Whichever way a folder is opened, it is closed so.
+    QCOMPARE(std::count(calls.begin(), calls.end(), "closedir"), 1);
+    QCOMPARE(filesOf(folder.path()), expected);
+    QCOMPARE(bytesOf(folder.filePath(expected.last())), QByteArray("map"));
+}
+
+// A link leads from one folder into another.
+void SaveFaultsTest::everyFolderOfManySavesIsRidOfLeftovers()
+{
+    const QTemporaryDir one;
+    const QTemporaryDir other;
+    QVERIFY(makeFile(one.filePath(leftover), "left") && makeFile(other.filePath(leftover), "left"));
+    QVERIFY(QFile::link(other.filePath("target"), one.filePath("link")));
+    SafeSaves saves;
+    for (const char *name : {"first", "link", "last"})
+        QVERIFY(saves.save(one.filePath(name), {name}).ok);
+    QCOMPARE(filesOf(one.path()), QStringList({"first", "last", "link"}));
+    QCOMPARE(filesOf(other.path()), QStringList("target"));
 }
 
 QTEST_MAIN(SaveFaultsTest)
