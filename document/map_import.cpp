@@ -8,26 +8,20 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <optional>
+#include <memory>
 
 namespace {
 
-// Nothing if the file can't be read; what it would give then isn't the map's header.
-std::optional<unsigned int> readHeaderOf(QFile &packed, ScenarioData &scenario, bool check)
+// The map's header, read where it begins; null if the file can't be read: what it would give then
+// isn't the header.
+std::shared_ptr<MapHeader> headerFrom(InflatingDevice &device)
 {
-    packed.seek(0);
-    InflatingDevice device(&packed, InflatingDevice::Format::GzipMembers);
     device.setLimit(limits::mapHeaderBytes);
     QDataStream stream(&device);
     stream.setByteOrder(QDataStream::LittleEndian);
-    const unsigned int answer = scenario.ReadMapHeader(stream, check);
-    return device.sourceFailed() ? std::nullopt : std::optional(answer);
-}
-
-bool unpacksToNothing(QFile &packed)
-{
-    packed.seek(0);
-    return InflatingDevice(&packed, InflatingDevice::Format::GzipMembers).atEnd();
+    ScenarioData imported;
+    imported.ReadMapHeader(stream, false);
+    return device.sourceFailed() ? nullptr : imported.mapHeader;
 }
 
 // The rest of the file, read once into its one buffer.
@@ -51,24 +45,27 @@ int ScenarioData::ReadMapFromFile(QFile *file)
         qDebug() << "Scenario Read Error";
         return 0;
     }
-    if (packed.isSequential() || unpacksToNothing(packed)) {
+    const auto device =
+        packed.isSequential()
+            ? nullptr // a pipe would be waited for
+            : std::make_unique<InflatingDevice>(&packed, InflatingDevice::Format::GzipMembers);
+    if (!device || device->atEnd()) {
         qDebug() << "ERR3";
         return 0;
     }
-    ScenarioData imported;
-    const std::optional<unsigned int> players = readHeaderOf(packed, imported, true);
-    if (players == unsigned(-1)) {
+    const std::shared_ptr<MapHeader> header = headerFrom(*device);
+    if (header && header->anyPlayers == 0) {
         qDebug() << "Err2";
         return -1;
     }
     const QByteArray bytes = readRest(*file);
-    if (!players || bytes.isEmpty() || !readHeaderOf(packed, imported, false)) {
+    if (!header || bytes.isEmpty()) {
         qDebug() << "Scenario Read Error";
         return 0;
     }
     mapFileName = QFileInfo(*file).fileName();
     mapSize = quint32(bytes.size());
     compressedMap = bytes;
-    mapHeader = imported.mapHeader;
+    mapHeader = header;
     return 1;
 }

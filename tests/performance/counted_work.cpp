@@ -2,9 +2,11 @@
 // On a processor for which the program has wider vectors than usual it says "wide".
 //
 // Usage: counted_work open GAMEFOLDER CAMPAIGN
+//        counted_work refresh GAMEFOLDER CAMPAIGN, with its maps beside it afterwards
 //        counted_work load GAMEFOLDER
 //        counted_work compose GAMEFOLDER
 #include "document/campaign_data.h"
+#include "document/map_exchange.h"
 #include "gamedata/campaign_picture.h"
 #include "gamedata/editor_data.h"
 #include "gamedata/game_dir.h"
@@ -14,6 +16,7 @@
 #include "gamedata/region_image.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 
 #include <cstdio>
@@ -37,6 +40,19 @@ bool openCampaign(const QString &path)
     CampaignData campaign;
     const auto fault = counted([&] { return campaign.readCampaign(&file); });
     return !fault && !campaign.scenarios.empty() && campaign.scenarios.back().mapHeader;
+}
+
+bool refreshMaps(const QString &path)
+{
+    QFile file(path);
+    CampaignData campaign;
+    if (campaign.readCampaign(&file))
+        return false;
+    bool well = true;
+    const auto tell = [&](const QString &) { well = false; };
+    const QString folder = QFileInfo(path).path();
+    exportMapsTo(folder, campaign, path, tell);
+    return counted([&] { return refreshMapsFrom(folder, campaign, tell).complete; }) && well;
 }
 
 bool load()
@@ -95,8 +111,12 @@ bool doWork(int argc, char **argv)
     loadGame();
     if (std::strcmp(argv[1], "compose") == 0)
         return compose();
-    return argc == 4 && std::strcmp(argv[1], "open") == 0 &&
-           openCampaign(QFile::decodeName(argv[3]));
+    if (argc != 4)
+        return false;
+    const QString campaign = QFile::decodeName(argv[3]);
+    if (std::strcmp(argv[1], "refresh") == 0)
+        return refreshMaps(campaign);
+    return std::strcmp(argv[1], "open") == 0 && openCampaign(campaign);
 }
 
 } // namespace
