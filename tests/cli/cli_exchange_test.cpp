@@ -1,6 +1,5 @@
 // The commands that carry texts and maps between a campaign and files of their own.
-#include "tests/cli/cli_game.h"
-#include "tests/cli/home_campaign.h"
+#include "tests/cli/home_folder.h"
 #include "tests/support/file_contents.h"
 
 #include <QDir>
@@ -9,7 +8,7 @@
 #include <QJsonObject>
 #include <QtTest>
 
-class CliExchangeTest : public QObject
+class CliExchangeTest : public QObject, private HomeFolder
 {
     Q_OBJECT
 
@@ -38,37 +37,19 @@ private slots:
     void fileSizeLimitLeavesTheOldOutputWhole();
 
 private:
-    QString path(const QString &name) const { return m_folder->filePath(name); }
-    QString write(const QString &name, const QByteArray &bytes) const
-    {
-        return samples::writeFile(path(name), bytes);
-    }
     QJsonObject dumped(const QString &name) const
     {
         const ChildResult result = m_game.run({"dump", path(name)});
         return QJsonDocument::fromJson(result.output).object()["campaign"].toObject();
     }
     QStringList mapNames(const QString &name) const;
-    void runs(const QStringList &words) const;
     void fails(const QStringList &words, const QString &error) const;
-
-    CliGame m_game;
-    std::unique_ptr<QTemporaryDir> m_folder; // "home.e3c" is in it, and a folder "maps"
 };
 
 void CliExchangeTest::init()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(QDir(m_folder->path()).mkdir("maps"));
-    write("home.e3c", homeCampaign());
-}
-
-void CliExchangeTest::runs(const QStringList &words) const
-{
-    const ChildResult result = m_game.run(words);
-    QCOMPARE(QString::fromUtf8(result.error), QString());
-    QCOMPARE(result.output, QByteArray());
-    QCOMPARE(result.exitCode, 0);
+    makeFolder();
+    QVERIFY(QDir(folder()).mkdir("maps"));
 }
 
 void CliExchangeTest::fails(const QStringList &words, const QString &error) const
@@ -338,11 +319,11 @@ void CliExchangeTest::fileSizeLimitLeavesTheOldOutputWhole()
           QByteArray(exported).replace("Ironmoors", "Frostmere").replace("Beware", text));
     write("maps/one.e3m", map);
     write("maps/three.e3m", mapNamed("Graystone"));
-    QVERIFY(QDir(m_folder->path()).mkdir("out"));
+    QVERIFY(QDir(folder()).mkdir("out"));
     write(out, "old bytes");
     const QString script = "cd \"$1\" && ulimit -f 1 && exec \"$0\" --game \"$2\" " + command;
-    const ChildResult result = runChild(
-        "/bin/bash", {"-c", script, builtProgram("cmped-cli"), m_folder->path(), m_game.path()});
+    const ChildResult result =
+        runChild("/bin/bash", {"-c", script, builtProgram("cmped-cli"), folder(), m_game.path()});
     QCOMPARE(QString::fromUtf8(result.error),
              "Error: Cannot write file " + out + ":\nFile too large.\n");
     QCOMPARE(result.exitCode, 2);

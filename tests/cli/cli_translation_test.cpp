@@ -1,6 +1,5 @@
 // Texts on their way to translators and back, through the tools that these use.
-#include "tests/cli/cli_game.h"
-#include "tests/cli/home_campaign.h"
+#include "tests/cli/home_folder.h"
 #include "tests/support/file_contents.h"
 
 #include <QDir>
@@ -10,7 +9,7 @@
 #include <QLibraryInfo>
 #include <QtTest>
 
-class CliTranslationTest : public QObject
+class CliTranslationTest : public QObject, private HomeFolder
 {
     Q_OBJECT
 
@@ -33,19 +32,12 @@ private slots:
     void wrongWordsEndWithStatusOne();
 
 private:
-    QString path(const QString &name) const { return m_folder->filePath(name); }
-    QString write(const QString &name, const QByteArray &bytes) const
-    {
-        return samples::writeFile(path(name), bytes);
-    }
     // Arguments that are files' names get their folder.
-    ChildResult run(QStringList words) const;
-    void runs(const QStringList &words) const;
+    QStringList inFolder(QStringList words) const;
+    ChildResult run(const QStringList &words) const { return m_game.run(inFolder(words)); }
+    void runs(const QStringList &words) const { HomeFolder::runs(inFolder(words)); }
     void shell(const QByteArray &script) const;
     QStringList textsOf(const QString &name, const QStringList &options = {}) const;
-
-    CliGame m_game;
-    std::unique_ptr<QTemporaryDir> m_folder; // "home.e3c" is in it
 };
 
 namespace {
@@ -97,33 +89,24 @@ QByteArray linguist(const char *ending)
 
 void CliTranslationTest::init()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
-    write("home.e3c", homeCampaign());
+    makeFolder();
 }
 
-ChildResult CliTranslationTest::run(QStringList words) const
+QStringList CliTranslationTest::inFolder(QStringList words) const
 {
     for (QString &word : words) {
         if (word.contains('.'))
             word = path(word);
     }
-    return m_game.run(words);
-}
-
-void CliTranslationTest::runs(const QStringList &words) const
-{
-    const ChildResult result = run(words);
-    QCOMPARE(QString::fromUtf8(result.error), QString());
-    QCOMPARE(result.output, QByteArray());
-    QCOMPARE(result.exitCode, 0);
+    return words;
 }
 
 void CliTranslationTest::shell(const QByteArray &script) const
 {
     const QString lconvert = QLibraryInfo::location(QLibraryInfo::BinariesPath) + "/lconvert";
     const ChildResult result = runChild(
-        "/bin/bash", {"-c", "set -euo pipefail; cd \"$0\"; LCONVERT=" + lconvert + "; " + script,
-                      m_folder->path()});
+        "/bin/bash",
+        {"-c", "set -euo pipefail; cd \"$0\"; LCONVERT=" + lconvert + "; " + script, folder()});
     QVERIFY2(result.exitCode == 0, result.error);
 }
 
