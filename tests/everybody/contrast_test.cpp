@@ -168,23 +168,16 @@ private slots:
     void menusStandOut();
 
 private:
-    QWidget *window() const
-    {
-        QFETCH(int, scene);
-        return opened[std::size_t(scene)].window.get();
-    }
+    QWidget *window() const { return windows->ofRow(); }
 
-    std::unique_ptr<OpenWindows> windows;
-    std::vector<ManualWindow> opened;
+    std::unique_ptr<AllWindows> windows;
 };
 
 void ContrastTest::initTestCase()
 {
     QApplication::setPalette(darkPalette());
-    windows = std::make_unique<OpenWindows>();
+    windows = std::make_unique<AllWindows>();
     QCOMPARE(qApp->devicePixelRatio(), 2.0);
-    for (int scene = 0; scene < int(manualScenes().size()); ++scene)
-        opened.push_back(OpenWindows::open(scene));
 }
 
 // The program's style leaves the desktop its colours, and the test's own can be read.
@@ -245,7 +238,7 @@ void ContrastTest::iconsStandOut()
 void ContrastTest::menusStandOut()
 {
     int seen = 0;
-    const auto menus = opened.front().window->findChildren<QMenu *>();
+    const auto menus = windows->mainWindow()->findChildren<QMenu *>();
     for (QMenu *menu : menus) {
         menu->popup({0, 0});
         const QImage picture = pictureOfAll(menu);
@@ -265,11 +258,7 @@ void ContrastTest::menusStandOut()
 
 int main(int argc, char **argv)
 {
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
-    QApplication application(argc, argv);
-    ContrastTest test;
-    return QTest::qExec(&test, argc, argv);
+    return runOnAnyScreen<ContrastTest>(argc, argv);
 }
 
 #include "contrast_test.moc"

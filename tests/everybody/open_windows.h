@@ -10,6 +10,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <vector>
+
 class OpenWindows
 {
 public:
@@ -35,6 +37,48 @@ public:
 private:
     QTemporaryDir m_settings;
 };
+
+// Every window, opened once, for tests that leave them as they are.
+class AllWindows
+{
+public:
+    AllWindows()
+    {
+        for (int scene = 0; scene < int(manualScenes().size()); ++scene)
+            m_opened.push_back(OpenWindows::open(scene));
+    }
+
+    // The one of the test's row.
+    QWidget *ofRow() const
+    {
+        QFETCH(int, scene);
+        return m_opened[std::size_t(scene)].window.get();
+    }
+
+    // The editor's own.
+    QWidget *mainWindow() const { return m_opened.front().window.get(); }
+
+    void hideDialogs() const
+    {
+        for (std::size_t dialog = 1; dialog < m_opened.size(); ++dialog)
+            m_opened[dialog].window->hide();
+    }
+
+private:
+    OpenWindows m_game;
+    std::vector<ManualWindow> m_opened;
+};
+
+// Runs a test on a dense screen as the editor's own start would have it there.
+template<typename Test>
+int runOnAnyScreen(int argc, char **argv)
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
+    const QApplication application(argc, argv);
+    Test test;
+    return QTest::qExec(&test, argc, argv);
+}
 
 // A row for each scene, its number in the column "scene".
 inline void addWindows()

@@ -134,23 +134,16 @@ private slots:
     void regionsAreWhereTheyAreSeen();
 
 private:
-    QWidget *window() const
-    {
-        QFETCH(int, scene);
-        return opened[std::size_t(scene)].window.get();
-    }
+    QWidget *window() const { return windows->ofRow(); }
 
-    std::unique_ptr<OpenWindows> windows;
-    std::vector<ManualWindow> opened;
+    std::unique_ptr<AllWindows> windows;
 };
 
 void WindowsTest::initTestCase()
 {
     QCOMPARE(qApp->devicePixelRatio(), qEnvironmentVariable("QT_SCALE_FACTOR", "1").toDouble());
-    windows = std::make_unique<OpenWindows>();
+    windows = std::make_unique<AllWindows>();
     QCOMPARE(QApplication::isRightToLeft(), qEnvironmentVariableIsSet("CMPED_TEST_MIRRORED"));
-    for (int scene = 0; scene < int(manualScenes().size()); ++scene)
-        opened.push_back(OpenWindows::open(scene));
 }
 
 // A window as none should be.
@@ -220,7 +213,7 @@ void WindowsTest::keysOfTextsAreUnlike()
 void WindowsTest::keysOfMenusAreUnlike()
 {
     QStringList shortcuts;
-    QWidget *mainWindow = opened.front().window.get();
+    QWidget *mainWindow = windows->mainWindow();
     const auto menus = mainWindow->findChildren<QMenu *>();
     QVERIFY(menus.size() >= 3);
     for (const QMenu *menu : menus) {
@@ -272,20 +265,19 @@ void WindowsTest::windowsFitASmallScreen()
 
 void WindowsTest::mapIsNeverMirrored()
 {
-    const auto *view = opened.front().window->findChild<QGraphicsView *>("graphicsView");
+    const auto *view = windows->mainWindow()->findChild<QGraphicsView *>("graphicsView");
     QCOMPARE(view->size(), QSize(456, 600));
     QCOMPARE(view->mapFromScene(QPointF(0, 0)), QPoint(0, 0));
     QCOMPARE(view->mapFromScene(QPointF(455, 599)), QPoint(455, 599));
-    QVERIFY(opened.front().window->rect().contains(
+    QVERIFY(windows->mainWindow()->rect().contains(
         QRect(view->mapTo(view->window(), QPoint()), view->size())));
 }
 
 // A click on each selects it and draws it anew, and nothing elsewhere.
 void WindowsTest::regionsAreWhereTheyAreSeen()
 {
-    for (std::size_t dialog = 1; dialog < opened.size(); ++dialog)
-        opened[dialog].window->hide(); // or they would keep clicks off
-    auto &window = static_cast<MainWindow &>(*opened.front().window);
+    windows->hideDialogs(); // or they would keep clicks off
+    auto &window = static_cast<MainWindow &>(*windows->mainWindow());
     QGraphicsView &view = *mapView(window);
     const QVector<CampaignRegionItem *> regions = regionsOf(window);
     QVERIFY(regions.size() > 5);
@@ -308,12 +300,7 @@ void WindowsTest::regionsAreWhereTheyAreSeen()
 
 int main(int argc, char **argv)
 {
-    // As the editor's own start sets them.
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
-    QApplication application(argc, argv);
-    WindowsTest test;
-    return QTest::qExec(&test, argc, argv);
+    return runOnAnyScreen<WindowsTest>(argc, argv);
 }
 
 #include "windows_test.moc"
