@@ -1,6 +1,7 @@
 #include "scenario/scenario_general.h"
 
 #include "document/campaign_data.h"
+#include "document/text_catalogue.h"
 #include "gamedata/editor_data.h"
 #include "scenario/scenario_host.h"
 #include "shell/choice_box.h"
@@ -72,7 +73,8 @@ void ScenarioGeneral::loadRegion()
     const QVector<CampaignRegion> &regions = EditorData::campaignMap(campaignMap).regions;
     ui->regionNameLabelMain->setText(region < unsigned(regions.size()) ? regions[int(region)].name
                                                                        : QString());
-    ui->regionTextEdit->setPlainText(headOf(scenario->regionText, longestRegionText));
+    ui->regionTextEdit->setPlainText(
+        headOf(scenario->regionText, longestText(TextKind::RegionText)));
     loadedText = ui->regionTextEdit->toPlainText();
 }
 
@@ -117,7 +119,7 @@ void ScenarioGeneral::ignorePrerequisites()
 
 void ScenarioGeneral::regionTextChanged()
 {
-    keepWithin(ui->regionTextEdit, longestRegionText);
+    keepWithin(ui->regionTextEdit, longestText(TextKind::RegionText));
 }
 
 void ScenarioGeneral::setChanged()

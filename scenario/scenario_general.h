@@ -20,8 +20,6 @@ class ScenarioGeneral : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr int longestRegionText = 600;
-
     explicit ScenarioGeneral(QWidget *parent);
     ~ScenarioGeneral() override;
 
