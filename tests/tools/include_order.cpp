@@ -21,10 +21,10 @@ constexpr RoomRow kRooms[] = {
     {"gamedata", "gamedata/", "runtime", false},
     {"document", "document/", "gamedata", false},
     {"leaves",
-     "shell/choice_box. shell/custom_widgets. shell/dialog_look. shell/drag_and_drop_handler. "
-     "shell/elided_label. shell/plain_message_boxes. shell/plain_tool_tips. "
-     "shell/readable_icon. shell/right_click_filter. shell/shown_text. shell/wait_cursor. "
-     "shell/warning_box.",
+     "shell/choice_box. shell/chosen_button. shell/custom_widgets. shell/dialog_look. "
+     "shell/drag_and_drop_handler. shell/elided_label. shell/plain_message_boxes. "
+     "shell/plain_tool_tips. shell/readable_icon. shell/right_click_filter. "
+     "shell/shown_text. shell/wait_cursor. shell/warning_box.",
      ""},
     {"sound", "shell/mss_info. shell/sound_library. shell/tune_file.", "gamedata", false},
     {"map view", "shell/campaign_map_view.", "gamedata"},
@@ -38,6 +38,7 @@ constexpr RoomRow kRooms[] = {
     {"tools/sample_game", "tools/sample_game/", "", false},
     {"tools/manual", "tools/manual/", "shell"},
     {"tools/icons", "tools/icons/", "", false},
+    {"cmake", "cmake/", "", false},
 
     {"made files", "tests/support/byte_writer. tests/support/packing.", "", false},
     {"fuzz", "fuzz/", "document|made files", false},
