@@ -6,6 +6,7 @@
 #include "scenario/bonus_type.h"
 #include "scenario/bonus_value_dlg.h"
 #include "scenario/map_player.h"
+#include "shell/chosen_button.h"
 #include "shell/dialog_look.h"
 #include "ui_bonus_dialog.h"
 
@@ -175,7 +176,7 @@ void BonusDialog::setOkEnabled(bool enabled)
 // its page shows.
 void BonusDialog::showPage(BonusType type)
 {
-    (ui.get()->*kinds()[std::size_t(type)].button)->setChecked(true);
+    chooseButton(ui.get()->*kinds()[std::size_t(type)].button);
     ui->stackedWidget->setCurrentIndex(int(type));
 }
 

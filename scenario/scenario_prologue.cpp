@@ -3,6 +3,7 @@
 #include "gamedata/editor_data.h"
 #include "scenario/scenario_host.h"
 #include "shell/choice_box.h"
+#include "shell/chosen_button.h"
 #include "shell/shown_text.h"
 #include "ui_ScenarioPrologue.h"
 
@@ -99,7 +100,7 @@ void ScenarioPrologue::loadStory()
     ui->settingsCheckbox->setVisible(index != 0);
     ui->settingsCheckbox->setChecked(index != 0 && story);
     const std::array<QPushButton *, storyCount> buttons{ui->btn1, ui->btn2, ui->btn3};
-    buttons[index]->setChecked(true);
+    chooseButton(buttons[index]);
     enableUI();
     ui->hasPrologueCheckbox->setChecked(stories()[0] != nullptr);
     if (!story) {

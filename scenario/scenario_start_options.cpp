@@ -7,6 +7,7 @@
 #include "scenario/starting_bonus.h"
 #include "scenario/starting_hero_options.h"
 #include "scenario/starting_hero_rules.h"
+#include "shell/chosen_button.h"
 #include "ui_ScenarioStartOptions.h"
 
 #include <QDebug>
@@ -146,7 +147,7 @@ void ScenarioStartOptions::showStoredKind()
 void ScenarioStartOptions::choose(const Kind &kind)
 {
     ui->stackedWidget->setCurrentWidget(kind.editor);
-    kind.button->setChecked(true);
+    chooseButton(kind.button);
 }
 
 void ScenarioStartOptions::updateScenarioData(ScenarioData *newScenario)

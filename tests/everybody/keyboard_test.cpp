@@ -6,10 +6,13 @@
 
 #include "tests/support/widgets.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QDialog>
+#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QRadioButton>
 #include <QSignalSpy>
 #include <QTableWidget>
 #include <QTextEdit>
@@ -57,6 +60,23 @@ QStringList unreached(QWidget *window, const QVector<QWidget *> &reached)
     return left;
 }
 
+// Buttons of which another one is chosen; the arrow keys lead to them.
+QStringList notChosen(const QVector<QWidget *> &reached)
+{
+    QStringList faults;
+    for (const QWidget *control : reached) {
+        const auto siblings = control->parentWidget()->findChildren<QAbstractButton *>();
+        const auto *button = qobject_cast<const QAbstractButton *>(control);
+        if (!button || button->isChecked())
+            continue;
+        for (const QAbstractButton *other : siblings) {
+            if (other->isChecked() && belongTogether(other, control))
+                faults += describe(control);
+        }
+    }
+    return faults;
+}
+
 QRect placeOf(const QWidget *control)
 {
     return {control->mapTo(control->window(), QPoint()), control->size()};
@@ -76,6 +96,7 @@ void verifyReadingOrder(QWidget *window)
     QVector<QWidget *> forwards = controlsBy(window, Qt::Key_Tab, Qt::NoModifier);
     QVERIFY(forwards.size() < mostControls);
     QCOMPARE(unreached(window, forwards), QStringList());
+    QCOMPARE(notChosen(forwards), QStringList());
     for (int i = 1; i < forwards.size(); ++i) {
         QVERIFY2(isReadAfter(forwards[i], forwards[i - 1]),
                  qPrintable(describe(forwards[i - 1]) + " -> " + describe(forwards[i])));
@@ -141,6 +162,7 @@ private slots:
 
     void keysReachAndUseEverything_data() { addWindows(); }
     void keysReachAndUseEverything();
+    void tabReachesTheKindOfAnotherScenario();
     void keysEndEveryDialog_data();
     void keysEndEveryDialog();
     void keysReachEveryCommand_data();
@@ -160,6 +182,29 @@ void KeyboardTest::keysReachAndUseEverything()
     verifyReadingOrder(opened.window.get());
     if (!QTest::currentTestFailed())
         verifyUse(opened.window.get());
+}
+
+// The kind at which one was may be impossible there.
+void KeyboardTest::tabReachesTheKindOfAnotherScenario()
+{
+    const ManualWindow opened = OpenWindows::open(sceneNamed("start-hero"));
+    QWidget *window = opened.window.get();
+    activate(window);
+    const auto *heroes = shownChild<QRadioButton>(window, "startingHeroBtn");
+    tabTo(window->findChild<QRadioButton *>("startingHeroBtn"));
+    QVERIFY(heroes->isChecked());
+    auto *list = shownChild<QListWidget>(window, "listWidget");
+    tabTo(list);
+    int found = 0;
+    for (int i = 0; i < list->count(); ++i) {
+        press(window, i == 0 ? Qt::Key_Home : Qt::Key_Down);
+        if (heroes->isEnabled())
+            continue;
+        QCOMPARE(notChosen(controlsBy(window, Qt::Key_Tab, Qt::NoModifier)), QStringList());
+        QCOMPARE(unreached(window, controlsBy(window, Qt::Key_Tab, Qt::NoModifier)), QStringList());
+        ++found;
+    }
+    QVERIFY(found > 0);
 }
 
 void KeyboardTest::keysEndEveryDialog_data()

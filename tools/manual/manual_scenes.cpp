@@ -88,6 +88,7 @@ ManualWindow mainWindow()
 ManualWindow newCampaignWithoutMap()
 {
     auto dialog = std::make_unique<NewCampaign>(nullptr);
+    dialog->findChild<QWidget *>("campaignWithoutMapBtn")->setFocus(); // as the mouse does
     press(dialog.get(), "campaignWithoutMapBtn");
     return {nullptr, std::move(dialog)};
 }
