@@ -4,6 +4,7 @@
 #include "campaign_dialogs/map_choice.h"
 #include "document/campaign_conversion.h"
 #include "document/campaign_data.h"
+#include "document/text_catalogue.h"
 #include "gamedata/editor_data.h"
 #include "gamedata/game_dir.h"
 #include "shell/choice_box.h"
@@ -20,8 +21,6 @@
 
 namespace {
 
-constexpr int longestName = 60;
-constexpr int longestDescription = 300;
 constexpr int playButtonText = 55;
 constexpr int forEver = 0;
 
@@ -103,8 +102,9 @@ void EditCampaign::fillMusic()
 
 void EditCampaign::fillTexts()
 {
-    ui->nameEdit->setPlainText(headOf(campaign->name, longestName));
-    ui->descriptionEdit->setPlainText(headOf(campaign->description, longestDescription));
+    ui->nameEdit->setPlainText(headOf(campaign->name, longestText(TextKind::CampaignName)));
+    ui->descriptionEdit->setPlainText(
+        headOf(campaign->description, longestText(TextKind::CampaignDescription)));
     loadedName = ui->nameEdit->toPlainText();
     loadedDescription = ui->descriptionEdit->toPlainText();
 }
@@ -177,12 +177,12 @@ void EditCampaign::setMusicBtn(bool playing)
 
 void EditCampaign::nameEditChanged()
 {
-    keepWithin(ui->nameEdit, longestName);
+    keepWithin(ui->nameEdit, longestText(TextKind::CampaignName));
 }
 
 void EditCampaign::descrEditChanged()
 {
-    keepWithin(ui->descriptionEdit, longestDescription);
+    keepWithin(ui->descriptionEdit, longestText(TextKind::CampaignDescription));
 }
 
 bool EditCampaign::saveTexts(CampaignData *target)
