@@ -23,7 +23,7 @@ _cmped_cli()
     for ((i = 1; i < cword; i++)); do
         case ${words[i]} in
             --game | --encoding)
-                program+=("${words[i]}" "${words[i + 1]}")
+                program+=("${words[i]}" "${words[i + 1]/#~\//$HOME/}")
                 ((i++))
                 ;;
             --*) program+=("${words[i]}") ;;

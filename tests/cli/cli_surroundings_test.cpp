@@ -25,12 +25,15 @@ private slots:
     void pagesTellOfEveryOption();
     void pageTellsOfEveryCommand();
     void pageTellsOfEveryExitStatus();
+    void gitIsToldOfCampaignsTheSameWayEverywhere_data();
+    void gitIsToldOfCampaignsTheSameWayEverywhere();
     void gitShowsTheChangedText();
 
 private:
     void complete(const QString &shell);
 
     CliGame m_game;
+    QTemporaryDir m_home;                  // of the user, with a link "other" to the game
     QTemporaryDir m_folder;                // with an empty file of each kind
     QHash<QString, QStringList> m_offered; // by the shell and the line
 };
@@ -109,9 +112,22 @@ std::vector<Completion> completions()
     add("cmped-cli export-maps a.e3c ", {"sub"});
     add("cmped-cli refresh-maps a.e3c ", {"sub"});
     add("cmped-cli render --size 64 a.e3c ", {"g.png", "sub"});
+    add("cmped-cli extract SS", {"SSTRAITS.txt"});
+    add("cmped-cli --game ~/other extract back", {"backhome.pcx", "backlarge.pcx", "backtwo.pcx"});
     add("cmped-cli region 24 0 ", {"0", "1", "2"});
     add("cmped-cli region 24 0 1 ", {"0", "1", "2", "3", "4", "5", "6", "7"});
     return list;
+}
+
+// With the programs installed, but told of no game.
+QProcessEnvironment withPrograms(const QString &home)
+{
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("PATH", QFileInfo(builtProgram("cmped-cli")).path() + ":" +
+                                   environment.value("PATH"));
+    environment.insert("HOME", home);
+    environment.remove("CMPED_GAME_DIR");
+    return environment;
 }
 
 QString page(const QString &program)
@@ -124,6 +140,17 @@ QString pageText(const QString &program)
     return QString::fromUtf8(contents(page(program)));
 }
 
+// The two lines of configuration, whatever the game's folder is called in them.
+QString configurationIn(const QString &text)
+{
+    const QRegularExpression lines("git config (diff.cmped.textconv \"cmped-cli --game )[^ ]+"
+                                   "( dump\")\n[ $]*(echo .*\\.gitattributes)");
+    const auto match = lines.match(text);
+    return match.hasMatch() ? "git config " + match.captured(1) + "DIR" + match.captured(2) + "\n" +
+                                  match.captured(3)
+                            : QString();
+}
+
 } // namespace
 
 void CliSurroundingsTest::initTestCase()
@@ -131,6 +158,7 @@ void CliSurroundingsTest::initTestCase()
     for (const char *name : {"a.e3c", "b.e3m", "c.po", "d.xlf", "e.csv", "f.txt", "g.png", "h.pot"})
         samples::writeFile(m_folder.filePath(name), "");
     QVERIFY(QDir(m_folder.path()).mkdir("sub"));
+    QVERIFY(QFile::link(m_game.path(), m_home.filePath("other")));
     for (const QString &shell : shells)
         complete(shell);
 }
@@ -143,7 +171,9 @@ void CliSurroundingsTest::complete(const QString &shell)
           << source + "/packaging/completions";
     for (const Completion &completion : completions())
         words << completion.line;
-    const ChildResult result = runChild("/bin/bash", words);
+    auto environment = withPrograms(m_home.path());
+    environment.insert("CMPED_GAME_DIR", m_game.path());
+    const ChildResult result = runChild("/bin/bash", words, environment);
     QVERIFY2(result.exitCode == 0, result.error);
     QStringList *offered = nullptr;
     for (QString word : QString::fromUtf8(result.output).split('\n', Qt::SkipEmptyParts)) {
@@ -253,21 +283,29 @@ void CliSurroundingsTest::pageTellsOfEveryExitStatus()
         QVERIFY(text.contains(QString("\n.It %1\n").arg(status)));
 }
 
+void CliSurroundingsTest::gitIsToldOfCampaignsTheSameWayEverywhere_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("README") << QString::fromUtf8(contents(source + "/README.md"));
+    QTest::newRow("manual page") << pageText("cmped-cli");
+}
+
+void CliSurroundingsTest::gitIsToldOfCampaignsTheSameWayEverywhere()
+{
+    QFETCH(QString, text);
+    QVERIFY(!configurationIn(text).isEmpty());
+    QCOMPARE(configurationIn(text), configurationIn(m_game.run({"dump", "--help"}).output));
+}
+
 // With the two lines of configuration that the program's help names.
 void CliSurroundingsTest::gitShowsTheChangedText()
 {
     const QTemporaryDir repository;
     samples::writeFile(repository.filePath("old"), homeCampaign());
     samples::writeFile(repository.filePath("new"), homeCampaign("Beware\nof bears"));
-    const QString help = m_game.run({"dump", "--help"}).output;
-    const QString configuration =
-        QRegularExpression("git config .*\n.*gitattributes").match(help).captured();
+    const QString configuration = configurationIn(m_game.run({"dump", "--help"}).output);
     QVERIFY(!configuration.isEmpty());
-    auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("PATH", QFileInfo(builtProgram("cmped-cli")).path() + ":" +
-                                   environment.value("PATH"));
-    environment.insert("HOME", repository.path());
-    environment.remove("CMPED_GAME_DIR");
+    const QProcessEnvironment environment = withPrograms(repository.path());
     const QString script = "set -e; cd \"$0\"; git init -q .; " +
                            QString(configuration).replace("DIR", m_game.path()) +
                            "\nmv old a.e3c; git add a.e3c\n"
