@@ -27,7 +27,7 @@ constexpr const char *helpText =
     "  --game DIR       the game's folder: the one with ravn.dat, Ravn_settings.ini\n"
     "                   and the folder Data\n"
     "  --encoding NAME  the encoding of texts in campaigns and maps, such as\n"
-    "                   windows-1251; by default that of the system's locale\n"
+    "                   Windows-1251; by default that of the system's locale\n"
     "  --help           show this text and end\n"
     "  --version        show the version and end\n"
     "\n"
