@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs the editor for a whole system, into a folder that stands for the root, and uses it from
-# there as a desktop does: entry, file types, metainfo, icons, thumbnails, translations.
+# there as a desktop does: entry, file types, metainfo, icons, thumbnails, translations. Then packs the
+# same for Debian; packaging/try-deb.sh installs that in a system of its own.
 #
 # Usage: system_install_test.sh CMAKE BUILD SAMPLE_GAME
 set -euo pipefail
@@ -146,6 +147,36 @@ nothing_else_was_written() {
     pass "using it writes nothing into the system"
 }
 
+control() { dpkg-deb --field "$package" "$1"; }
+packed() { dpkg-deb --fsys-tarfile "$package" | tar "$@"; }
+
+# Sanitizers ask for libraries of their own, and nobody packs them.
+the_package_holds_the_same() {
+    grep -q '^CMPED_SANITIZERS:BOOL=ON' "$build/CMakeCache.txt" && return 0
+    "${cmake%/*}/cpack" --config "$build/CPackConfig.cmake" -B "$work/packed" >"$work/log" 2>&1 ||
+        fail "can't be packed"
+    local package script library
+    package=$(echo "$work"/packed/*.deb)
+    [ "$(control Package) $(control Version)" = "$(cmped --version)" ] ||
+        fail "the package has another version"
+    for library in libc6 libqt5core5a libqt5gui5 libqt5svg5 libqt5widgets5 zlib1g \
+        libsdl2-mixer-2.0-0; do
+        control Depends | grep -qE "(^|, )$library( |,|$)" || fail "the package doesn't ask for $library"
+    done
+    packed --list | grep -v '/$' | sort | diff "$work/installed" - >"$work/log" ||
+        fail "the package holds other files than are installed"
+    ! packed --list --verbose | grep -v ' root/root ' >"$work/log" ||
+        fail "files in the package belong to somebody"
+    # What scripts of its own do, a removal doesn't undo.
+    dpkg-deb --control "$package" "$work/control"
+    for script in "$work/control/"{preinst,postinst,prerm,postrm}; do
+        [ -e "$script" ] || continue
+        ! grep -vE '^(#!/bin/sh|set -e|if .*|[[:space:]]*ldconfig|fi|)$' "$script" >"$work/log" ||
+            fail "${script##*/} of the package does more than it needs"
+    done
+    pass "the package for Debian holds the same and asks for what it needs"
+}
+
 install_for_the_system
 files_for_desktops_are_valid
 one_version_is_told_everywhere
@@ -154,3 +185,4 @@ icons_are_there
 the_editor_starts
 a_thumbnail_is_drawn
 nothing_else_was_written
+the_package_holds_the_same
