@@ -19,6 +19,7 @@
 #include <QTableWidget>
 #include <QTimer>
 #include <QToolButton>
+#include <QXmlStreamReader>
 
 #include <memory>
 
@@ -166,6 +167,8 @@ private slots:
     void namesEveryControl();
     void namesNothingThatIsNotThere();
     void leadsToItsOwnSections();
+    void namesEveryMessage_data();
+    void namesEveryMessage();
 
 private:
     std::unique_ptr<ManualFixture> fixture;
@@ -275,6 +278,40 @@ void ManualTest::leadsToItsOwnSections()
     QVERIFY(links.size() > 5);
     const QStringList dead = sorted(links - anchors);
     QVERIFY2(dead.isEmpty(), qPrintable(dead.join(QStringLiteral(" | "))));
+}
+
+// What is translated and a sentence. Commands end in dots, but aren't.
+void ManualTest::namesEveryMessage_data()
+{
+    QTest::addColumn<QString>("message");
+    QFile file(QStringLiteral(CMPED_SOURCE_DIR "/translations/cmp_ru.ts"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QXmlStreamReader xml(&file);
+    const QRegularExpression sentence(QStringLiteral("[^.][.!?]$|\\n|^(Can't|Unable|The) "));
+    QSet<QString> seen;
+    while (!xml.atEnd()) {
+        xml.readNext();
+        if (!xml.isStartElement() || xml.name() != QLatin1String("source"))
+            continue;
+        const QString text = xml.readElementText();
+        if (!sentence.match(text).hasMatch() || seen.contains(text))
+            continue;
+        seen.insert(text);
+        QTest::newRow(qPrintable(text.simplified())) << text;
+    }
+    QVERIFY(!xml.hasError());
+    QVERIFY(seen.size() > 15);
+}
+
+// With anything in the place of names and numbers.
+void ManualTest::namesEveryMessage()
+{
+    QFETCH(QString, message);
+    QStringList parts = message.simplified().split(QRegularExpression(QStringLiteral("%\\d")));
+    for (QString &part : parts)
+        part = QRegularExpression::escape(part);
+    const QRegularExpression told(parts.join(QStringLiteral("[^|]+?")));
+    QVERIFY(told.match(manual.simplified()).hasMatch());
 }
 
 QTEST_MAIN(ManualTest)
