@@ -141,6 +141,30 @@ a_thumbnail_is_drawn() {
     pass "a thumbnail is drawn"
 }
 
+# The editor that somebody else has started on the campaign; its process is left in `editor`.
+is_opened() {
+    local process
+    for process in /proc/[0-9]*; do
+        if grep -qazxF "$campaign" "$process/cmdline" 2>/dev/null; then
+            editor=${process#/proc/}
+            return 0
+        fi
+    done
+    return 1
+}
+is_closed() { ! is_opened; } # what is left of it may wait for its parent
+
+# As a double click does. The game is the one chosen last.
+a_campaign_is_opened() {
+    XDG_CURRENT_DESKTOP=GNOME xdg-open "$campaign" >"$work/log" 2>&1 || fail "xdg-open opens nothing"
+    until_true is_opened || fail "xdg-open starts no editor"
+    until_true is_up "$editor" || fail "the editor does not come up"
+    kill -TERM "$editor"
+    until_true is_closed || fail "the editor does not end"
+    editor=
+    pass "xdg-open opens a campaign"
+}
+
 nothing_else_was_written() {
     files | grep -vE '/(mime/|applications/mimeinfo.cache)' >"$work/now"
     grep -vE '/mime/' "$work/installed" | diff - "$work/now" >"$work/log" || fail "files came or went"
@@ -184,5 +208,6 @@ files_have_their_types
 icons_are_there
 the_editor_starts
 a_thumbnail_is_drawn
+a_campaign_is_opened
 nothing_else_was_written
 the_package_holds_the_same
