@@ -174,12 +174,10 @@ nothing_else_was_written() {
 control() { dpkg-deb --field "$package" "$1"; }
 packed() { dpkg-deb --fsys-tarfile "$package" | tar "$@"; }
 
-# Sanitizers ask for libraries of their own, and nobody packs them.
 the_package_holds_the_same() {
-    grep -q '^CMPED_SANITIZERS:BOOL=ON' "$build/CMakeCache.txt" && return 0
     "${cmake%/*}/cpack" --config "$build/CPackConfig.cmake" -B "$work/packed" >"$work/log" 2>&1 ||
         fail "can't be packed"
-    local package script library
+    local script library
     package=$(echo "$work"/packed/*.deb)
     [ "$(control Package) $(control Version)" = "$(cmped --version)" ] ||
         fail "the package has another version"
@@ -201,6 +199,27 @@ the_package_holds_the_same() {
     pass "the package for Debian holds the same and asks for what it needs"
 }
 
+# dpkg as root of a system that has nothing else, with the package's scripts run outside it.
+in_an_empty_system() {
+    local root=()
+    [ "$(id -u)" = 0 ] || root=(unshare --map-root-user)
+    PATH=$work/bin:$PATH:/usr/sbin:/sbin "${root[@]}" dpkg --root="$work/empty" --force-not-root \
+        --force-depends --force-script-chrootless --log="$work/dpkg.log" "$@" >"$work/log" 2>&1
+}
+in_the_empty_system() { (cd "$work/empty" && find . ! -path './var*' ! -path . | sort); }
+
+the_package_comes_and_goes() {
+    mkdir -p "$work/empty/var/lib/dpkg/"{info,updates,triggers} "$work/bin"
+    touch "$work/empty/var/lib/dpkg/"{status,available}
+    printf '#!/bin/sh\n' >"$work/bin/ldconfig"
+    chmod +x "$work/bin/ldconfig"
+    in_an_empty_system --install "$package" || fail "the package can't be installed"
+    [ -x "$work/empty/usr/bin/cmped" ] || fail "the package installs nothing"
+    in_an_empty_system --purge cmped || fail "the package can't be removed"
+    [ -z "$(in_the_empty_system)" ] || fail "it leaves behind: $(in_the_empty_system)"
+    pass "the package is installed, and removed without a trace"
+}
+
 install_for_the_system
 files_for_desktops_are_valid
 one_version_is_told_everywhere
@@ -210,4 +229,7 @@ the_editor_starts
 a_thumbnail_is_drawn
 a_campaign_is_opened
 nothing_else_was_written
+# Sanitizers ask for libraries of their own, and nobody packs them.
+grep -q '^CMPED_SANITIZERS:BOOL=ON' "$build/CMakeCache.txt" && exit 0
 the_package_holds_the_same
+the_package_comes_and_goes
