@@ -97,14 +97,14 @@ QByteArray tunes::wave(const Wave &wave)
 {
     constexpr unsigned bits = 16;
     constexpr unsigned pcm = 1;
-    const unsigned frameBytes = 4;
+    const unsigned frameSize = 4;
     ByteWriter sound;
     for (int i = 0; i < wave.frames; ++i)
         sound.u16(unsigned(i + 1)).u16(unsigned(wave.mark));
     ByteWriter out;
     out.raw("RIFF").u32(quint32(36 + sound.size())).raw("WAVE");
     out.raw("fmt ").u32(16).u16(pcm).u16(wave.channels).u32(wave.rate);
-    out.u32(wave.rate * frameBytes).u16(frameBytes).u16(bits);
+    out.u32(wave.rate * frameSize).u16(frameBytes).u16(bits);
     out.raw("data").u32(quint32(sound.size())).raw(sound.bytes());
     return out.bytes();
 }
