@@ -104,7 +104,7 @@ QByteArray tunes::wave(const Wave &wave)
     ByteWriter out;
     out.raw("RIFF").u32(quint32(36 + sound.size())).raw("WAVE");
     out.raw("fmt ").u32(16).u16(pcm).u16(wave.channels).u32(wave.rate);
-    out.u32(wave.rate * frameSize).u16(frameBytes).u16(bits);
+    out.u32(wave.rate * frameSize).u16(frameSize).u16(bits);
     out.raw("data").u32(quint32(sound.size())).raw(sound.bytes());
     return out.bytes();
 }
