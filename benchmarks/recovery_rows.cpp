@@ -2,12 +2,14 @@
 #include "benchmarks/groups.h"
 #include "benchmarks/rows.h"
 #include "document/campaign_data.h"
+#include "document/gzip_member.h"
 #include "shell/recovery_copies.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <memory>
+#include <optional>
 #include <stdexcept>
 
 namespace {
@@ -23,13 +25,7 @@ struct Document
             throw std::runtime_error("a campaign can't be opened");
     }
 
-    void keepCopy()
-    {
-        campaign.saveBy([&](const std::vector<QByteArray> &pieces) {
-            copies.keep(QStringLiteral("harbour"), {}, pieces);
-            return SaveResult{true, {}};
-        });
-    }
+    void keepCopy() { copies.keep(QStringLiteral("harbour"), {}, campaign.unpacked().value()); }
 
     QTemporaryDir folder;
     RecoveryCopies copies{folder.path()};

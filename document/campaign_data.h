@@ -16,7 +16,6 @@
 #include <QString>
 
 #include <array>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -24,6 +23,7 @@
 class CampaignData;
 class QDataStream;
 class QFile;
+struct UnpackedFile; // in document/gzip_member.h
 
 constexpr quint32 newestCampaignVersion = 10; // of the file format: what is written
 constexpr int heroKeepsBits = 5;
@@ -126,8 +126,8 @@ public:
     // The same, telling how it went. What could not be read again isn't written: a campaign with
     // more text than the reader takes, or on a map that the game's tables lack.
     SaveResult saveTo(const QString &path);
-    // The same, with somebody else to write the file's bytes.
-    SaveResult saveBy(const std::function<SaveResult(const std::vector<QByteArray> &)> &write);
+    // The file for somebody else to pack and write; nothing where saveTo wouldn't write it.
+    std::optional<UnpackedFile> unpacked();
     // The file's bytes in order: the packed header, then every map as imported.
     std::vector<QByteArray> toPieces();
 

@@ -1,7 +1,6 @@
 #include "document/gzip_member.h"
 
 #include <algorithm>
-#include <array>
 
 namespace {
 
@@ -79,21 +78,36 @@ void PackedLength::deflateAll(int flush)
     } while (m_stream.avail_out == 0);
 }
 
+MemberPacker::MemberPacker()
+{
+    deflateInit2(&m_stream, Z_DEFAULT_COMPRESSION, Z_DEFLATED, gzipOnly, defaultMemory,
+                 Z_DEFAULT_STRATEGY);
+}
+
+MemberPacker::~MemberPacker()
+{
+    deflateEnd(&m_stream);
+}
+
+int MemberPacker::packSome(int flush)
+{
+    m_stream.next_out = reinterpret_cast<Bytef *>(m_packed.data());
+    m_stream.avail_out = uInt(m_packed.size());
+    const int result = deflate(&m_stream, flush);
+    const bool well = result == Z_OK || result == Z_STREAM_END;
+    const bool nothingToDo = result == Z_BUF_ERROR && flush == Z_NO_FLUSH;
+    return well || nothingToDo ? int(m_packed.size() - m_stream.avail_out) : -1;
+}
+
 QByteArray packGzipMember(const QByteArray &data)
 {
-    z_stream stream{};
-    if (deflateInit2(&stream, Z_DEFAULT_COMPRESSION, Z_DEFLATED, gzipOnly, defaultMemory,
-                     Z_DEFAULT_STRATEGY) != Z_OK)
-        return {};
-    QByteArray packed(int(deflateBound(&stream, uLong(data.size()))), Qt::Uninitialized);
-    stream.next_in = input(data.constData());
-    stream.avail_in = uInt(data.size());
-    stream.next_out = reinterpret_cast<Bytef *>(packed.data());
-    stream.avail_out = uInt(packed.size());
-    const int result = deflate(&stream, Z_FINISH);
-    packed.truncate(int(stream.total_out));
-    deflateEnd(&stream);
-    if (result != Z_STREAM_END)
+    QByteArray packed;
+    const auto append = [&](const char *bytes, int size) {
+        packed.append(bytes, size);
+        return true;
+    };
+    MemberPacker packer;
+    if (!packer.add(data.constData(), data.size(), append) || !packer.finish(append))
         return {};
     packed.squeeze();
     return packed;

@@ -1,7 +1,9 @@
 #include "shell/file_in_writing.h"
 
+#include "document/gzip_member.h"
 #include "gamedata/disk_file.h"
 
+#include <algorithm>
 #include <csignal>
 
 #include <fcntl.h>
@@ -11,29 +13,37 @@
 
 namespace {
 
-bool writeAll(int handle, const std::vector<QByteArray> &pieces)
+bool writeBytes(int handle, const char *bytes, int size)
 {
-    for (const QByteArray &piece : pieces) {
-        for (int done = 0; done < piece.size();) {
-            const ssize_t count = uninterrupted([&] {
-                return write(handle, piece.constData() + done, std::size_t(piece.size() - done));
-            });
-            if (count <= 0)
-                return false;
-            done += int(count);
-        }
+    for (int done = 0; done < size;) {
+        const ssize_t count =
+            uninterrupted([&] { return write(handle, bytes + done, std::size_t(size - done)); });
+        if (count <= 0)
+            return false;
+        done += int(count);
     }
     return true;
+}
+
+bool packAndWrite(int handle, const UnpackedFile &content, MemberPacker &packer)
+{
+    const auto take = [&](const char *bytes, int size) { return writeBytes(handle, bytes, size); };
+    if (!content.head.isEmpty() &&
+        !(packer.add(content.head.constData(), content.head.size(), take) && packer.finish(take)))
+        return false;
+    return std::all_of(content.rest.begin(), content.rest.end(), [&](const QByteArray &piece) {
+        return take(piece.constData(), piece.size());
+    });
 }
 
 // The life of the writing process. Other threads of the program are gone here, in the middle of
 // whatever they did, so nothing is called but what the system allows then: no memory is taken.
 [[noreturn]] void writeInPlace(int handle, const char *unfinished, const char *place,
-                               const std::vector<QByteArray> &pieces)
+                               const UnpackedFile &content, MemberPacker &packer)
 {
     for (const int signal : {SIGHUP, SIGINT, SIGTERM, SIGQUIT})
         std::signal(signal, SIG_IGN); // they are meant for the editor
-    const bool done = writeAll(handle, pieces) && rename(unfinished, place) == 0;
+    const bool done = packAndWrite(handle, content, packer) && rename(unfinished, place) == 0;
     if (!done)
         unlink(unfinished);
     _exit(done ? 0 : 1);
@@ -51,15 +61,16 @@ FileInWriting::FileInWriting(QTemporaryFile &unfinished, pid_t writer)
 }
 
 std::unique_ptr<FileInWriting> FileInWriting::start(QTemporaryFile &unfinished, const QString &path,
-                                                    const std::vector<QByteArray> &pieces)
+                                                    const UnpackedFile &content)
 {
+    MemberPacker packer; // made here, where memory may be taken
     const QByteArray name = QFile::encodeName(unfinished.fileName());
     const QByteArray place = QFile::encodeName(path);
     const pid_t writer = fork();
     if (writer < 0)
         return nullptr;
     if (writer == 0)
-        writeInPlace(unfinished.handle(), name.constData(), place.constData(), pieces);
+        writeInPlace(unfinished.handle(), name.constData(), place.constData(), content, packer);
     return std::unique_ptr<FileInWriting>(new FileInWriting(unfinished, writer));
 }
 

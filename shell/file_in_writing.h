@@ -1,16 +1,17 @@
-// A file that takes another one's place, written by a process of its own: a campaign of hundreds of
-// megabytes takes longer to write than anybody waits for after each change. That process has its
-// own view of the memory as it was, so it writes what there was to write whatever becomes of this
-// one, and carries on if this one is killed.
+// A file that takes another one's place, packed and written by a process of its own: a campaign of
+// hundreds of megabytes, or of thousands of scenarios, takes longer than anybody waits for after
+// each change. That process has its own view of the memory as it was, so it writes what there was
+// to write whatever becomes of this one, and carries on if this one is killed.
 #pragma once
 
 #include <QByteArray>
 #include <QTemporaryFile>
 
 #include <memory>
-#include <vector>
 
 #include <sys/types.h>
+
+struct UnpackedFile;
 
 class FileInWriting : public QFile
 {
@@ -18,7 +19,7 @@ public:
     // Goes on with an open file beside `path`, which nobody has to remove any more. Null if no
     // process can be made; then nothing has happened to the file.
     static std::unique_ptr<FileInWriting> start(QTemporaryFile &unfinished, const QString &path,
-                                                const std::vector<QByteArray> &pieces);
+                                                const UnpackedFile &content);
     // Waits for the end of the writing.
     ~FileInWriting() override;
     FileInWriting(const FileInWriting &) = delete;

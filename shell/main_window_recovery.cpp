@@ -1,4 +1,5 @@
 // When a copy of the document is kept against a sudden end, and when one that is left is offered.
+#include "document/gzip_member.h"
 #include "gamedata/editor_data.h"
 #include "shell/main_window.h"
 #include "shell/wait_cursor.h"
@@ -6,6 +7,7 @@
 #include <QDir>
 #include <QMessageBox>
 
+#include <optional>
 #include <utility>
 
 namespace {
@@ -26,12 +28,9 @@ void MainWindow::keepRecoveryCopy()
 {
     if (!EditorData::info.modified)
         return;
-    const WaitCursor cursor; // the header of thousands of scenarios takes its time to be packed
-    const RecoveryOrigin origin{absolute(currentFile), currentFileStamp};
-    campaign.saveBy([&](const std::vector<QByteArray> &pieces) {
-        recoveryCopies.keep(documentName(), origin, pieces);
-        return SaveResult{true, {}};
-    });
+    const WaitCursor cursor; // the header of thousands of scenarios takes its time to be made
+    if (const std::optional<UnpackedFile> content = campaign.unpacked())
+        recoveryCopies.keep(documentName(), {absolute(currentFile), currentFileStamp}, *content);
 }
 
 void MainWindow::offerRecoveryCopy()

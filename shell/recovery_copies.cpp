@@ -38,7 +38,7 @@ QString RecoveryCopies::usualFolder()
 RecoveryCopies::RecoveryCopies(QString folder) : m_folder(std::move(folder)) {}
 
 void RecoveryCopies::keep(const QString &documentName, const RecoveryOrigin &origin,
-                          const std::vector<QByteArray> &pieces)
+                          const UnpackedFile &content)
 {
     if (!makeFolder())
         return;
@@ -50,7 +50,7 @@ void RecoveryCopies::keep(const QString &documentName, const RecoveryOrigin &ori
         writeOrigin(originPath(m_folder, m_base), origin);
     // What is being written is outdated, and might come last.
     m_lock = settled(std::move(m_lock), &FileInWriting::stop);
-    auto written = replaceFile(m_path, pieces);
+    auto written = replaceFile(m_path, content);
     if (!written) {
         if (isNew)
             remove();

@@ -42,11 +42,11 @@ public:
     // The folder is made when the first copy is.
     explicit RecoveryCopies(QString folder = usualFolder());
 
-    // Makes the pieces the copy of the document in work: a new one, or in the place of the one that
+    // Makes this the copy of the document in work: a new one, or in the place of the one that
     // is kept already. A new one drives the oldest out of the folder. If it can't be written, the
     // copy stays as it was.
     void keep(const QString &documentName, const RecoveryOrigin &origin,
-              const std::vector<QByteArray> &pieces);
+              const UnpackedFile &content);
     // The changes are saved, or nobody wants them: removes the document's copy.
     void remove();
     // The document ends with changes: its copy stays, and can be offered. So it does when this

@@ -1,5 +1,6 @@
 #include "shell/recovery_files.h"
 
+#include "document/gzip_member.h"
 #include "gamedata/escaped_utf8.h"
 #include "shell/file_in_writing.h"
 
@@ -32,7 +33,8 @@ constexpr const char *unfinishedName = ".unfinished-XXXXXX";
 constexpr int placeholderLength = 6;
 constexpr qint64 secondsOfWriting = qint64(24) * 3600; // no copy takes longer
 
-// Written in a time that nobody notices. What is larger is written by a process of its own.
+// Packed and written in a time that nobody notices. What is larger is left to a process of its own.
+constexpr int packedAtOnce = 2 * 1024 * 1024;
 constexpr qint64 writtenAtOnce = qint64(32) * 1024 * 1024;
 
 constexpr std::string_view signsInNames = " -_()";
@@ -71,10 +73,24 @@ QString inFolder(const QString &folder, const QString &base, const char *ending)
     return folder + QLatin1Char('/') + base + QLatin1String(ending);
 }
 
-qint64 sizeOf(const std::vector<QByteArray> &pieces)
+bool takesLong(const UnpackedFile &content)
 {
-    return std::accumulate(pieces.begin(), pieces.end(), qint64(0),
-                           [](qint64 sum, const QByteArray &piece) { return sum + piece.size(); });
+    const qint64 written =
+        std::accumulate(content.rest.begin(), content.rest.end(), qint64(0),
+                        [](qint64 sum, const QByteArray &piece) { return sum + piece.size(); });
+    return content.head.size() > packedAtOnce || written > writtenAtOnce;
+}
+
+bool writeAtOnce(QFile &file, const UnpackedFile &content)
+{
+    const auto write = [&](const QByteArray &piece) { return file.write(piece) == piece.size(); };
+    if (!content.head.isEmpty()) {
+        const QByteArray packed = packGzipMember(content.head);
+        if (packed.isEmpty() || !write(packed))
+            return false;
+    }
+    return std::all_of(content.rest.begin(), content.rest.end(), write) && file.flush() &&
+           file.error() == QFileDevice::NoError;
 }
 
 void removeOrphanedOrigins(const QString &folder)
@@ -161,22 +177,18 @@ std::unique_ptr<QFile> lockedFile(const QString &path)
     return file;
 }
 
-std::unique_ptr<QFile> replaceFile(const QString &path, const std::vector<QByteArray> &pieces)
+std::unique_ptr<QFile> replaceFile(const QString &path, const UnpackedFile &content)
 {
     auto file = std::make_unique<QTemporaryFile>(QFileInfo(path).path() + QLatin1Char('/') +
                                                  QLatin1String(unfinishedName));
     if (!file->open())
         return nullptr;
     lockFile(*file); // a system without locks lets nobody else lock it either
-    if (sizeOf(pieces) > writtenAtOnce) {
-        if (auto written = FileInWriting::start(*file, path, pieces))
+    if (takesLong(content)) {
+        if (auto written = FileInWriting::start(*file, path, content))
             return written;
     }
-    for (const QByteArray &piece : pieces) {
-        if (file->write(piece) != piece.size())
-            return nullptr;
-    }
-    if (!file->flush() || file->error() != QFileDevice::NoError)
+    if (!writeAtOnce(*file, content))
         return nullptr;
     std::error_code failure;
     std::filesystem::rename(QFile::encodeName(file->fileName()).toStdString(),
@@ -193,7 +205,7 @@ void writeOrigin(const QString &path, const RecoveryOrigin &origin)
     const QByteArray name = QFile::encodeName(origin.path).toPercentEncoding("/ ");
     const QJsonObject note{{QLatin1String(pathKey), QLatin1String(name)},
                            {QLatin1String(stampKey), textOf(origin.stamp)}};
-    replaceFile(path, {QJsonDocument(note).toJson()});
+    replaceFile(path, {{}, {QJsonDocument(note).toJson()}});
 }
 
 RecoveryOrigin readOrigin(const QString &path)

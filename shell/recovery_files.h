@@ -7,15 +7,14 @@
 
 #include "shell/file_stamp.h"
 
-#include <QByteArray>
 #include <QDateTime>
 #include <QString>
 #include <QVector>
 
 #include <memory>
-#include <vector>
 
 class QFile;
+struct UnpackedFile;
 
 // The file of the document that a copy is of, and its state when the document was read from it or
 // saved last. Without a path the document has never been saved.
@@ -51,10 +50,10 @@ bool lockFile(const QFile &file);
 // The copy of that path, open and locked; null if another editor keeps it.
 std::unique_ptr<QFile> lockedFile(const QString &path);
 
-// Puts the pieces in the place of a file, which is the old one or the new one whatever happens to
+// Puts the content in the place of a file, which is the old one or the new one whatever happens to
 // the process. Answers the new file, open and locked; null if the old one stays. Doesn't wait for
 // the disk: a copy is for an end of the editor, and costs time at every change of the document.
-std::unique_ptr<QFile> replaceFile(const QString &path, const std::vector<QByteArray> &pieces);
+std::unique_ptr<QFile> replaceFile(const QString &path, const UnpackedFile &content);
 
 void writeOrigin(const QString &path, const RecoveryOrigin &origin);
 // Without a sound note of it, the copy is one of a document without a file.

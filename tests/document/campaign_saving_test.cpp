@@ -17,6 +17,8 @@ private slots:
     void init() { samples::setTables(); }
     void writesSilentlyToTheFilesName();
     void savingTellsHowItWent();
+    void unpackedIsTheFileButForThePacking_data();
+    void unpackedIsTheFileButForThePacking();
     void savesNoCampaignOnAMapThatTheGameLacks();
     void savesNoMoreTextThanCanBeReadAgain_data();
     void savesNoMoreTextThanCanBeReadAgain();
@@ -48,6 +50,32 @@ void CampaignSavingTest::savingTellsHowItWent()
     QVERIFY(!failed.error.isEmpty());
 }
 
+void CampaignSavingTest::unpackedIsTheFileButForThePacking_data()
+{
+    QTest::addColumn<unsigned>("scenarios");
+    QTest::newRow("one") << 1u;
+    QTest::newRow("more than a portion of bits") << 1500u;
+}
+
+void CampaignSavingTest::unpackedIsTheFileButForThePacking()
+{
+    QFETCH(unsigned, scenarios);
+    CampaignData c;
+    c.initDummyCampaign(24, false, 0, scenarios);
+    for (std::size_t i = 0; i < c.scenarios.size(); i += 3) {
+        c.scenarios[i].regionText = QString::number(i);
+        c.scenarios[i].mapHeader = std::make_shared<MapHeader>();
+        c.scenarios[i].compressedMap = QByteArray("map ") + QByteArray::number(int(i));
+        c.scenarios[i].mapSize = quint32(c.scenarios[i].compressedMap.size());
+    }
+    const std::optional<UnpackedFile> file = c.unpacked();
+    QVERIFY(file);
+    const std::vector<QByteArray> pieces = c.toPieces();
+    QCOMPARE(unpacked(pieces.front()), file->head);
+    QCOMPARE(packGzipMember(file->head), pieces.front());
+    QCOMPARE(file->rest, std::vector<QByteArray>(pieces.begin() + 1, pieces.end()));
+}
+
 void CampaignSavingTest::savesNoCampaignOnAMapThatTheGameLacks()
 {
     CampaignData c;
@@ -65,6 +93,7 @@ void CampaignSavingTest::savesNoCampaignOnAMapThatTheGameLacks()
     const SaveResult failed = read.saveTo(path);
     QVERIFY(!failed.ok);
     QCOMPARE(failed.error, QString("The game has no campaign map 3"));
+    QVERIFY(!read.unpacked());
     QVERIFY(file.seek(0));
     QCOMPARE(file.readAll(), before);
 }
@@ -99,7 +128,9 @@ void CampaignSavingTest::savesNoMoreTextThanCanBeReadAgain()
     QVERIFY(!back.readCampaign(&file));
     QCOMPARE(back.description, c.description);
     const qint64 size = file.size();
+    QVERIFY(c.unpacked());
     c.description += 'y';
+    QVERIFY(!c.unpacked());
     const SaveResult failed = c.saveTo(path);
     QVERIFY(!failed.ok);
     QCOMPARE(failed.error, qt_error_string(EFBIG));

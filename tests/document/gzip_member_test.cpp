@@ -23,6 +23,9 @@ private slots:
     void thePackedLengthIsThatOfCompress();
     void portionsHaveTheLengthOfTheWhole_data() { addData(); }
     void portionsHaveTheLengthOfTheWhole();
+    void portionsPackIntoTheSameMember_data() { addData(); }
+    void portionsPackIntoTheSameMember();
+    void packingEndsWhereNobodyTakesMore();
     void unpacksBothFramings();
     void answersZlibsErrorCodes();
     void theDeleterClosesAHandleSoThatItsBytesAreOnTheDisk();
@@ -84,6 +87,35 @@ void GzipMemberTest::portionsHaveTheLengthOfTheWhole()
     for (int at = 0; at < data.size(); at += 1000)
         packed.add(data.constData() + at, qMin(1000, data.size() - at));
     QCOMPARE(packed.finish() + 12, qint64(packGzipMember(data).size()));
+}
+
+void GzipMemberTest::portionsPackIntoTheSameMember()
+{
+    QFETCH(QByteArray, data);
+    const QByteArray whole = packGzipMember(data);
+    for (const int portion : {1, 1000, 65536}) {
+        QByteArray packed;
+        const auto append = [&](const char *bytes, int size) {
+            packed.append(bytes, size);
+            return true;
+        };
+        MemberPacker packer;
+        for (int at = 0; at < data.size(); at += portion)
+            QVERIFY(packer.add(data.constData() + at, qMin(portion, data.size() - at), append));
+        QVERIFY(packer.add(data.constData(), 0, append));
+        QVERIFY(packer.finish(append));
+        QVERIFY(packed == whole);
+    }
+}
+
+void GzipMemberTest::packingEndsWhereNobodyTakesMore()
+{
+    const QByteArray data = samples::noise(300000);
+    int taken = 0;
+    const auto takeTwice = [&](const char *, int) { return ++taken < 2; };
+    MemberPacker packer;
+    QVERIFY(!packer.add(data.constData(), data.size(), takeTwice));
+    QCOMPARE(taken, 2);
 }
 
 void GzipMemberTest::unpacksBothFramings()

@@ -56,8 +56,8 @@ void RecoveryCopiesOfferedTest::copyOfARunningEditorIsNotOffered()
 {
     leaveCopy("left", 10);
     auto running = std::make_unique<RecoveryCopies>(folder);
-    running->keep("running", untitled, {"running"});
-    running->keep("running", untitled, {"running on"});
+    running->keep("running", untitled, {{}, {"running"}});
+    running->keep("running", untitled, {{}, {"running on"}});
     QCOMPARE(offeredBy(RecoveryCopies(folder)), QByteArray("left"));
     QCOMPARE(offeredBy(RecoveryCopies(folder)), QByteArray());
     running.reset();
@@ -79,7 +79,7 @@ void RecoveryCopiesOfferedTest::editorsOfOneMomentHaveTwoCopies()
     std::vector<std::unique_ptr<RecoveryCopies>> editors;
     for (int i = 0; i < 5; ++i) {
         editors.push_back(std::make_unique<RecoveryCopies>(folder));
-        editors.back()->keep("harbour", untitled, {QByteArray::number(i)});
+        editors.back()->keep("harbour", untitled, {{}, {QByteArray::number(i)}});
     }
     QCOMPARE(files().size(), 5);
     QByteArrayList found;
@@ -99,7 +99,7 @@ void RecoveryCopiesOfferedTest::takenOverCopyIsTheDocumentsOwn()
         copies.markOffered(*copy);
         copies.takeOver(std::move(*copy));
         QVERIFY(!RecoveryCopies(folder).newestToOffer()); // its editor runs
-        copies.keep("harbour", {"/a.e3c", {}}, {"on"});
+        copies.keep("harbour", {"/a.e3c", {}}, {{}, {"on"}});
         QCOMPARE(files().size(), 2);
     }
     RecoveryCopies copies(folder);
@@ -130,7 +130,7 @@ void RecoveryCopiesOfferedTest::tenNewestStay()
 void RecoveryCopiesOfferedTest::copyOfARunningEditorIsNeverDrivenOut()
 {
     RecoveryCopies running(folder);
-    running.keep("running", untitled, {"running"});
+    running.keep("running", untitled, {{}, {"running"}});
     const QString name = files().value(0);
     QVERIFY(age(path(name), 1000));
     for (int i = 0; i < 12; ++i)

@@ -2,6 +2,7 @@
 #include "gamedata/escaped_utf8.h"
 #include "tests/shell/recovery_folder.h"
 #include "tests/support/disk_faults.h"
+#include "tests/support/processor_time.h"
 
 #include <QDateTime>
 #include <QRegularExpression>
@@ -24,6 +25,16 @@ mode_t modeOf(const QString &path)
 QByteArray large(char byte)
 {
     return QByteArray(40 * 1024 * 1024, byte);
+}
+
+// Noise that takes its time to be packed.
+QByteArray largeHead()
+{
+    QByteArray bytes(3 * 1024 * 1024, '\0');
+    quint32 state = 1;
+    for (char &byte : bytes)
+        byte = char((state = state * 1664525u + 1013904223u) >> 24);
+    return bytes;
 }
 
 // The folder's name is in front of the parts that matter.
@@ -59,6 +70,10 @@ private slots:
     void failedRenewalKeepsTheOldCopy();
     void failedFirstCopyLeavesNothing();
     void largeCopyHoldsThePiecesInOrder();
+    void headIsPackedInFrontOfTheRest_data();
+    void headIsPackedInFrontOfTheRest();
+    void largeHeadIsPackedByAnotherProcess();
+    void largeCopyIsWrittenWhateverBecomesOfTheEditor_data();
     void largeCopyIsWrittenWhateverBecomesOfTheEditor();
     void laterCopyComesLastHoweverLarge_data();
     void laterCopyComesLastHoweverLarge();
@@ -85,7 +100,7 @@ void RecoveryCopiesTest::usualFolderIsInTheUsersData()
 void RecoveryCopiesTest::copyHoldsThePiecesInOrder()
 {
     RecoveryCopies copies(folder);
-    copies.keep("harbour", untitled, {"one", "", "two", QByteArray(100000, 'x')});
+    copies.keep("harbour", untitled, {{}, {"one", "", "two", QByteArray(100000, 'x')}});
     QCOMPARE(files().size(), 1);
     QCOMPARE(contents(path(files()[0])), "onetwo" + QByteArray(100000, 'x'));
 }
@@ -93,9 +108,9 @@ void RecoveryCopiesTest::copyHoldsThePiecesInOrder()
 void RecoveryCopiesTest::laterOneTakesThePlaceOfTheFirst()
 {
     RecoveryCopies copies(folder);
-    copies.keep("harbour", untitled, {"a long first one"});
+    copies.keep("harbour", untitled, {{}, {"a long first one"}});
     const QStringList first = files();
-    copies.keep("harbour", untitled, {"second"});
+    copies.keep("harbour", untitled, {{}, {"second"}});
     QCOMPARE(files(), first);
     QCOMPARE(contents(path(first[0])), QByteArray("second"));
 }
@@ -105,7 +120,7 @@ void RecoveryCopiesTest::nameTellsWhenAndWhat()
     const QString format = "yyyy-MM-dd HH-mm-ss";
     const QString before = QDateTime::currentDateTime().toString(format);
     RecoveryCopies copies(folder);
-    copies.keep("Old harbour (2)", untitled, {"x"});
+    copies.keep("Old harbour (2)", untitled, {{}, {"x"}});
     const QString after = QDateTime::currentDateTime().toString(format);
     const QString name = files().value(0);
     QCOMPARE(withoutTime(name), QString("Old harbour (2).e3c"));
@@ -151,7 +166,7 @@ void RecoveryCopiesTest::namesOfDocumentsAreMadeHarmless()
     QFETCH(QString, document);
     QFETCH(QString, name);
     RecoveryCopies copies(folder);
-    copies.keep(document, untitled, {"x"});
+    copies.keep(document, untitled, {{}, {"x"}});
     QCOMPARE(files().size(), 1);
     QCOMPARE(withoutTime(files()[0]), name + ".e3c");
     copies.leave();
@@ -166,7 +181,7 @@ void RecoveryCopiesTest::namesAreKeptPlainInOtherEncodings()
 {
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("windows-1251"));
     RecoveryCopies copies(folder);
-    copies.keep(QString::fromUtf8("a ёлка"), untitled, {"x"});
+    copies.keep(QString::fromUtf8("a ёлка"), untitled, {{}, {"x"}});
     copies.leave();
     QCOMPARE(withoutTime(files().value(0)), QString("a ____.e3c"));
     QCOMPARE(offeredBy(copies), QByteArray("x"));
@@ -176,7 +191,7 @@ void RecoveryCopiesTest::removeLeavesNothing()
 {
     RecoveryCopies copies(folder);
     copies.remove();
-    copies.keep("harbour", {"/campaigns/harbour.e3c", {}}, {"x"});
+    copies.keep("harbour", {"/campaigns/harbour.e3c", {}}, {{}, {"x"}});
     QCOMPARE(files().size(), 2);
     copies.remove();
     QCOMPARE(files(), QStringList());
@@ -185,9 +200,9 @@ void RecoveryCopiesTest::removeLeavesNothing()
 void RecoveryCopiesTest::leftCopyStaysAndTheNextDocumentHasItsOwn()
 {
     RecoveryCopies copies(folder);
-    copies.keep("first", untitled, {"one"});
+    copies.keep("first", untitled, {{}, {"one"}});
     copies.leave();
-    copies.keep("second", untitled, {"two"});
+    copies.keep("second", untitled, {{}, {"two"}});
     QCOMPARE(files().size(), 2);
     copies.remove();
     QCOMPARE(files().size(), 1);
@@ -244,15 +259,15 @@ void RecoveryCopiesTest::damagedNoteIsNoOrigin()
 void RecoveryCopiesTest::failedRenewalKeepsTheOldCopy()
 {
     RecoveryCopies copies(folder);
-    copies.keep("harbour", untitled, {"short"});
+    copies.keep("harbour", untitled, {{}, {"short"}});
     const QStringList before = files();
     {
         const FileSizeLimit limit(20);
-        copies.keep("harbour", untitled, {"this is ", "longer than allowed"});
+        copies.keep("harbour", untitled, {{}, {"this is ", "longer than allowed"}});
         QCOMPARE(files(), before);
         QCOMPARE(contents(path(before[0])), QByteArray("short"));
     }
-    copies.keep("harbour", untitled, {"this is ", "longer than allowed"});
+    copies.keep("harbour", untitled, {{}, {"this is ", "longer than allowed"}});
     QCOMPARE(files(), before);
     QCOMPARE(contents(path(before[0])), QByteArray("this is longer than allowed"));
 }
@@ -262,17 +277,17 @@ void RecoveryCopiesTest::failedFirstCopyLeavesNothing()
     RecoveryCopies copies(folder);
     {
         const FileSizeLimit limit(20);
-        copies.keep("harbour", untitled, {"this is longer than allowed"});
+        copies.keep("harbour", untitled, {{}, {"this is longer than allowed"}});
     }
     QCOMPARE(files(), QStringList());
-    copies.keep("harbour", untitled, {"this is longer than allowed"});
+    copies.keep("harbour", untitled, {{}, {"this is longer than allowed"}});
     QCOMPARE(files().size(), 1);
 }
 
 void RecoveryCopiesTest::largeCopyHoldsThePiecesInOrder()
 {
     RecoveryCopies copies(folder);
-    copies.keep("harbour", untitled, {"one", large('x'), "two"});
+    copies.keep("harbour", untitled, {{}, {"one", large('x'), "two"}});
     copies.leave();
     QCOMPARE(files().size(), 1);
     QCOMPARE(withoutTime(files()[0]), QString("harbour.e3c"));
@@ -281,14 +296,54 @@ void RecoveryCopiesTest::largeCopyHoldsThePiecesInOrder()
     QVERIFY(copies.newestToOffer());
 }
 
+void RecoveryCopiesTest::headIsPackedInFrontOfTheRest_data()
+{
+    QTest::addColumn<QByteArray>("head");
+    QTest::newRow("small") << QByteArray("head");
+    QTest::newRow("large") << largeHead();
+}
+
+void RecoveryCopiesTest::headIsPackedInFrontOfTheRest()
+{
+    QFETCH(QByteArray, head);
+    RecoveryCopies copies(folder);
+    copies.keep("harbour", untitled, {head, {"one", "", "two"}});
+    copies.leave();
+    QCOMPARE(files().size(), 1);
+    QVERIFY(contents(path(files()[0])) == packGzipMember(head) + "onetwo");
+}
+
+void RecoveryCopiesTest::largeHeadIsPackedByAnotherProcess()
+{
+    const UnpackedFile content{largeHead(), {}};
+    RecoveryCopies copies(folder);
+    const ProcessorTime timeOfKeeping;
+    copies.keep("harbour", untitled, content);
+    const qint64 keeping = timeOfKeeping.milliseconds();
+    const ProcessorTime timeOfPacking;
+    QVERIFY(!packGzipMember(content.head).isEmpty());
+    const qint64 packing = timeOfPacking.milliseconds();
+    QVERIFY2(keeping < packing / 2, qPrintable(QString("%1, %2 ms").arg(keeping).arg(packing)));
+}
+
+void RecoveryCopiesTest::largeCopyIsWrittenWhateverBecomesOfTheEditor_data()
+{
+    QTest::addColumn<QByteArray>("head");
+    QTest::addColumn<QByteArray>("piece");
+    QTest::newRow("large pieces") << QByteArray() << large('x');
+    QTest::newRow("a head to be packed") << largeHead() << QByteArray("small");
+}
+
 // It dies as soon as it may go on.
 void RecoveryCopiesTest::largeCopyIsWrittenWhateverBecomesOfTheEditor()
 {
-    const QByteArray bytes = large('x');
+    QFETCH(QByteArray, head);
+    QFETCH(QByteArray, piece);
+    const QByteArray bytes = (head.isEmpty() ? QByteArray() : packGzipMember(head)) + piece;
     const pid_t editor = fork();
     if (editor == 0) {
         RecoveryCopies copies(folder);
-        copies.keep("harbour", untitled, {bytes});
+        copies.keep("harbour", untitled, {head, {piece}});
         raise(SIGKILL);
         _exit(1);
     }
@@ -315,8 +370,8 @@ void RecoveryCopiesTest::laterCopyComesLastHoweverLarge()
     QFETCH(QByteArray, first);
     QFETCH(QByteArray, second);
     RecoveryCopies copies(folder);
-    copies.keep("harbour", untitled, {first});
-    copies.keep("harbour", untitled, {second});
+    copies.keep("harbour", untitled, {{}, {first}});
+    copies.keep("harbour", untitled, {{}, {second}});
     copies.leave();
     QCOMPARE(files().size(), 1);
     QVERIFY(contents(path(files()[0])) == second);
@@ -325,7 +380,7 @@ void RecoveryCopiesTest::laterCopyComesLastHoweverLarge()
 void RecoveryCopiesTest::removedLargeCopyDoesNotComeBack()
 {
     RecoveryCopies copies(folder);
-    copies.keep("harbour", {home->filePath("harbour.e3c"), {}}, {large('x')});
+    copies.keep("harbour", {home->filePath("harbour.e3c"), {}}, {{}, {large('x')}});
     copies.remove();
     QCOMPARE(files(), QStringList());
 }
@@ -333,12 +388,12 @@ void RecoveryCopiesTest::removedLargeCopyDoesNotComeBack()
 void RecoveryCopiesTest::failedLargeCopyKeepsTheOldOne()
 {
     RecoveryCopies copies(folder);
-    copies.keep("harbour", untitled, {"short"});
+    copies.keep("harbour", untitled, {{}, {"short"}});
     const QStringList before = files();
     {
         const FileSizeLimit limit(1024 * 1024);
-        copies.keep("harbour", untitled, {large('x')});
-        copies.keep("harbour", untitled, {large('x')}); // when the first of them has failed
+        copies.keep("harbour", untitled, {{}, {large('x')}});
+        copies.keep("harbour", untitled, {{}, {large('x')}}); // when the first of them has failed
         QVERIFY(!RecoveryCopies(folder).newestToOffer());
     }
     copies.leave();
@@ -351,7 +406,7 @@ void RecoveryCopiesTest::failedFirstLargeCopyLeavesNothing()
 {
     RecoveryCopies copies(folder);
     const FileSizeLimit limit(1024 * 1024);
-    copies.keep("harbour", {home->filePath("harbour.e3c"), {}}, {large('x')});
+    copies.keep("harbour", {home->filePath("harbour.e3c"), {}}, {{}, {large('x')}});
     copies.leave();
     QCOMPARE(files(), QStringList());
 }
@@ -360,8 +415,8 @@ void RecoveryCopiesTest::failedFirstLargeCopyLeavesNothing()
 void RecoveryCopiesTest::nobodyIsOfferedACopyThatIsBeingWritten()
 {
     RecoveryCopies copies(folder);
-    copies.keep("harbour", untitled, {"short"});
-    copies.keep("harbour", untitled, {large('x')});
+    copies.keep("harbour", untitled, {{}, {"short"}});
+    copies.keep("harbour", untitled, {{}, {large('x')}});
     QVERIFY(!RecoveryCopies(folder).newestToOffer());
     QTRY_COMPARE_WITH_TIMEOUT(QFileInfo(path(files()[0])).size(), qint64(large('x').size()), 60000);
     QVERIFY(!RecoveryCopies(folder).newestToOffer());
@@ -371,13 +426,13 @@ void RecoveryCopiesTest::placeThatCantBeWrittenIsNoTrouble()
 {
     QVERIFY(write(home->filePath("data"), "a file"));
     RecoveryCopies copies(folder);
-    copies.keep("harbour", untitled, {"x"});
+    copies.keep("harbour", untitled, {{}, {"x"}});
     QVERIFY(!copies.newestToOffer());
     copies.remove();
     copies.leave();
     QCOMPARE(contents(home->filePath("data")), QByteArray("a file"));
     RecoveryCopies nowhere{QString()};
-    nowhere.keep("harbour", untitled, {"x"});
+    nowhere.keep("harbour", untitled, {{}, {"x"}});
     QVERIFY(!nowhere.newestToOffer());
 }
 
@@ -387,8 +442,8 @@ void RecoveryCopiesTest::folderAndFilesArePrivate()
     QVERIFY(QFile::setPermissions(folder, QFile::Permissions(0x7777)));
     const mode_t mask = umask(0);
     RecoveryCopies copies(folder);
-    copies.keep("harbour", {"/a.e3c", {}}, {"x"});
-    copies.keep("harbour", {"/a.e3c", {}}, {"y"});
+    copies.keep("harbour", {"/a.e3c", {}}, {{}, {"x"}});
+    copies.keep("harbour", {"/a.e3c", {}}, {{}, {"y"}});
     umask(mask);
     QCOMPARE(modeOf(folder), mode_t(0700));
     QCOMPARE(files().size(), 2);

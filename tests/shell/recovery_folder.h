@@ -1,6 +1,7 @@
 // A folder of recovery copies, whose age the tests set.
 #pragma once
 
+#include "document/gzip_member.h"
 #include "shell/recovery_copies.h"
 #include "tests/support/file_contents.h"
 
@@ -48,7 +49,7 @@ protected:
     {
         RecoveryCopies copies(folder);
         const QStringList before = files();
-        copies.keep(document, origin, {document.toUtf8()});
+        copies.keep(document, origin, {{}, {document.toUtf8()}});
         const QStringList after = files();
         for (const QString &name : after) {
             if (!before.contains(name))
