@@ -13,21 +13,35 @@
 
 namespace {
 
-bool writeBytes(int handle, const char *bytes, int size)
+// Writes a file from its start, counting by itself: the handle's own place is the editor's too,
+// which may move it meanwhile, as Qt does before it closes a temporary file.
+class Writing
 {
-    for (int done = 0; done < size;) {
-        const ssize_t count =
-            uninterrupted([&] { return write(handle, bytes + done, std::size_t(size - done)); });
-        if (count <= 0)
-            return false;
-        done += int(count);
+public:
+    explicit Writing(int handle) : m_handle(handle) {}
+
+    bool add(const char *bytes, int size)
+    {
+        for (int done = 0; done < size;) {
+            const ssize_t count = uninterrupted(
+                [&] { return pwrite(m_handle, bytes + done, std::size_t(size - done), m_place); });
+            if (count <= 0)
+                return false;
+            done += int(count);
+            m_place += count;
+        }
+        return true;
     }
-    return true;
-}
+
+private:
+    const int m_handle;
+    off_t m_place = 0;
+};
 
 bool packAndWrite(int handle, const UnpackedFile &content, MemberPacker &packer)
 {
-    const auto take = [&](const char *bytes, int size) { return writeBytes(handle, bytes, size); };
+    Writing file(handle);
+    const auto take = [&](const char *bytes, int size) { return file.add(bytes, size); };
     if (!content.head.isEmpty() &&
         !(packer.add(content.head.constData(), content.head.size(), take) && packer.finish(take)))
         return false;

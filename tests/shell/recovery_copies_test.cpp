@@ -5,15 +5,22 @@
 #include "tests/support/processor_time.h"
 
 #include <QDateTime>
+#include <QDeadlineTimer>
 #include <QRegularExpression>
 #include <QTextCodec>
 
 #include <csignal>
 
+#include <dlfcn.h>
+#include <sched.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
+
+// A handle is moved to its file's start only once there is something in the file.
+bool movesLate = false;
 
 mode_t modeOf(const QString &path)
 {
@@ -46,6 +53,20 @@ QString withoutTime(const QString &name)
 
 } // namespace
 
+// Stands before the C library's, for Qt too.
+extern "C" __attribute__((visibility("default"))) off64_t lseek64(int handle, off64_t place,
+                                                                  int whence) noexcept
+{
+    using Function = off64_t (*)(int, off64_t, int);
+    static const auto real = reinterpret_cast<Function>(dlsym(RTLD_NEXT, "lseek64"));
+    struct stat status = {};
+    const QDeadlineTimer limit(60000);
+    if (movesLate && whence == SEEK_SET && place == 0)
+        while (!limit.hasExpired() && fstat(handle, &status) == 0 && status.st_size == 0)
+            sched_yield();
+    return real(handle, place, whence);
+}
+
 class RecoveryCopiesTest : public QObject, private RecoveryFolder
 {
     Q_OBJECT
@@ -70,6 +91,7 @@ private slots:
     void failedRenewalKeepsTheOldCopy();
     void failedFirstCopyLeavesNothing();
     void largeCopyHoldsThePiecesInOrder();
+    void placeOfTheEditorsHandleIsNothingToTheOtherProcess();
     void headIsPackedInFrontOfTheRest_data();
     void headIsPackedInFrontOfTheRest();
     void largeHeadIsPackedByAnotherProcess();
@@ -294,6 +316,17 @@ void RecoveryCopiesTest::largeCopyHoldsThePiecesInOrder()
     QCOMPARE(modeOf(path(files()[0])), mode_t(0600));
     QVERIFY(contents(path(files()[0])) == "one" + large('x') + "two");
     QVERIFY(copies.newestToOffer());
+}
+
+// Both have the same open file, and Qt moves to its start before it closes a temporary one.
+void RecoveryCopiesTest::placeOfTheEditorsHandleIsNothingToTheOtherProcess()
+{
+    RecoveryCopies copies(folder);
+    movesLate = true;
+    copies.keep("harbour", untitled, {{}, {"one", large('x'), "two"}});
+    movesLate = false;
+    copies.leave();
+    QVERIFY(contents(path(files()[0])) == "one" + large('x') + "two");
 }
 
 void RecoveryCopiesTest::headIsPackedInFrontOfTheRest_data()
