@@ -43,6 +43,17 @@ void addRows(const Inputs &inputs)
     addGraphGrowth();
 }
 
+// Answers the exit status.
+int tellPeak(const char *game, const char *campaign)
+{
+    setGameRoot(QFile::decodeName(game));
+    initEditorResources();
+    loadGame();
+    const qint64 rise = peakOfScenarioDialog(QFile::decodeName(campaign));
+    std::printf("%lld\n", static_cast<long long>(rise));
+    return rise < 0 ? 1 : 0;
+}
+
 int usage()
 {
     std::fprintf(stderr, "Usage: cmped-bench INPUTS [--runs N] [--benchmark_filter=REGEX]\n");
@@ -63,6 +74,8 @@ int main(int argc, char **argv)
     const QApplication application(argc, argv);
 
     int runs = 1;
+    if (argc == 4 && std::strcmp(argv[1], scenarioDialogPeak) == 0)
+        return tellPeak(argv[2], argv[3]);
     if (argc == 4 && std::strcmp(argv[2], "--runs") == 0)
         runs = std::atoi(argv[3]);
     else if (argc != 2)

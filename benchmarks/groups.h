@@ -3,6 +3,12 @@
 
 #include "benchmarks/inputs.h"
 
+// The option by which cmped-bench tells, in a process of its own, by how many bytes its memory
+// rises while it opens a campaign and the scenario dialog: cmped-bench OPTION GAMEFOLDER CAMPAIGN.
+constexpr char scenarioDialogPeak[] = "--scenario-dialog-peak";
+// The game is loaded, and there is an application. Negative if it can't.
+qint64 peakOfScenarioDialog(const QString &campaign);
+
 void addOpeningRows(const Inputs &inputs);
 void addSavingRows(const Inputs &inputs);
 void addMemoryRows(const Inputs &inputs);

@@ -1,5 +1,5 @@
-// Saving a campaign, against writing the same bytes in the same safe way; and what memory opening
-// and saving take.
+// Saving a campaign, against writing the same bytes in the same safe way; and what memory opening,
+// saving and other commands take.
 #include "benchmarks/child.h"
 #include "benchmarks/groups.h"
 #include "benchmarks/rows.h"
@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
+#include <array>
 #include <memory>
 #include <stdexcept>
 
@@ -33,27 +34,38 @@ rows::Pair saving(const Inputs &inputs)
             rows::timed([=] { demand(saveFileSafely(folder->filePath("plain.e3c"), pieces)); })};
 }
 
-rows::Measure peakOf(const Inputs &inputs, const char *what)
+struct MemoryRow
 {
-    const std::vector<std::string> arguments = {
-        what, QFile::encodeName(inputs.game()).toStdString(),
-        QFile::encodeName(inputs.campaign(8)).toStdString()};
-    return [=] { return std::stod(outputOf("memory_probe", arguments)); };
-}
+    const char *work;
+    unsigned maps;
+    const char *program;
+    const char *argument;
+};
 
-void addMemoryRow(const Inputs &inputs, const char *work, const char *what)
+constexpr std::array<MemoryRow, 6> memoryRows = {{
+    {"memory while opening it", 8, "memory_probe", "open"},
+    {"memory while opening and saving it", 8, "memory_probe", "save"},
+    {"memory while opening a campaign of 64 maps and refreshing them", 64, "memory_probe",
+     "refresh"},
+    {"memory while opening it, exporting texts and importing them", 64, "memory_probe", "texts"},
+    {"memory while opening it and converting it twice", 64, "memory_probe", "convert"},
+    {"memory while opening it and its scenario dialog", 64, "cmped-bench", scenarioDialogPeak},
+}};
+
+// Measured in processes of their own, on a copy with its maps beside it.
+rows::Pair peakOf(const MemoryRow &row, const Inputs &inputs)
 {
-    rows::Row row;
-    row.work = work;
-    row.reference = "the file's size";
-    row.goal = 1.5;
-    row.turns = 5;
-    row.unit = rows::Unit::Bytes;
-    row.prepare = [inputs, what] {
-        const auto size = double(QFileInfo(inputs.campaign(8)).size());
-        return rows::Pair{peakOf(inputs, what), [size] { return size; }};
+    const auto folder = std::make_shared<QTemporaryDir>(inputs.folder + "/memory-XXXXXX");
+    const QString campaign = folder->filePath("campaign.e3c");
+    if (!QFile::copy(inputs.campaign(row.maps), campaign))
+        throw std::runtime_error("a campaign can't be copied");
+    const auto rise = [=, game = inputs.game()](const char *program, const char *argument) {
+        return std::stod(outputOf(program, {argument, QFile::encodeName(game).toStdString(),
+                                            QFile::encodeName(campaign).toStdString()}));
     };
-    rows::add(row);
+    rise("memory_probe", "export");
+    const auto size = double(QFileInfo(campaign).size());
+    return {[=] { return folder ? rise(row.program, row.argument) : 0; }, [size] { return size; }};
 }
 
 } // namespace
@@ -72,6 +84,14 @@ void addSavingRows(const Inputs &inputs)
 
 void addMemoryRows(const Inputs &inputs)
 {
-    addMemoryRow(inputs, "memory while opening it", "open");
-    addMemoryRow(inputs, "memory while opening and saving it", "save");
+    rows::Row row;
+    row.reference = "the file's size";
+    row.goal = 1.5;
+    row.turns = 5;
+    row.unit = rows::Unit::Bytes;
+    for (const MemoryRow &memory : memoryRows) {
+        row.work = memory.work;
+        row.prepare = [&memory, inputs] { return peakOf(memory, inputs); };
+        rows::add(row);
+    }
 }

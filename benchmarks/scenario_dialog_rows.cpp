@@ -2,12 +2,15 @@
 // widget of that length: opening it, and adding, moving and deleting one until the list is painted
 // again.
 #include "benchmarks/groups.h"
+#include "benchmarks/peak_memory.h"
 #include "benchmarks/rows.h"
 #include "benchmarks/scenario_chain.h"
 #include "document/campaign_data.h"
+#include "gamedata/editor_data.h"
 #include "scenario/scenario_info.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QListWidget>
 #include <QPushButton>
 
@@ -100,7 +103,31 @@ rows::Pair clicking(bool chained, const char *name)
             rows::timed(fillPlainList)};
 }
 
+void openDialog(CampaignData &campaign)
+{
+    ScenarioInfo dialog(nullptr, &campaign, EditorData::info.campaign, 0);
+    dialog.show();
+    settle();
+    dialog.grab(); // painted, wherever it is shown
+}
+
 } // namespace
+
+// What windows need once, fonts and the like, is there before.
+qint64 peakOfScenarioDialog(const QString &campaign)
+{
+    CampaignData small = scenarioChain(1, false);
+    EditorData::info.campaign = small.mapId;
+    openDialog(small);
+    return peak_memory::riseDuring([&] {
+        QFile file(campaign);
+        CampaignData read;
+        if (read.readCampaign(&file))
+            return false;
+        openDialog(read);
+        return true;
+    });
+}
 
 void addScenarioDialogRows()
 {
