@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Takes the pictures of docs/manual.md anew, from the program as it is built now.
+# Takes the pictures of docs/manual.md and docs/manual.ru.md anew, from the program as it is built now.
 set -euo pipefail
 
 cd "$(dirname "$(realpath "$0")")/.."

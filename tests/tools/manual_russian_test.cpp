@@ -1,27 +1,25 @@
-// The manual's Russian pictures; a process speaks one language only.
-#include "tests/tools/manual_pictures.h"
-
-#include <memory>
+// The manual in Russian; a process speaks one language only.
+#include "tests/tools/manual_page.h"
 
 class ManualRussianTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { fixture = std::make_unique<ManualFixture>(manualRussian); }
-
+    void initTestCase() { page.read(); }
+    void namesThePicturesThatAreThere() { page.verifyPictures(); }
     void pictureHasTheWindowsSize_data() { addScenes(); }
-    void pictureHasTheWindowsSize();
+    void pictureHasTheWindowsSize() { page.verifyPictureSize(); }
+    void namesEveryControl_data() { addScenes(); }
+    void namesEveryControl() { page.verifyNamesOfControls(); }
+    void namesNothingThatIsNotThere() { page.verifyNoOtherNames(); }
+    void leadsToItsOwnSections() { page.verifyLinks(); }
+    void namesEveryMessage_data() { page.addMessages(); }
+    void namesEveryMessage() { page.verifyMessage(); }
 
 private:
-    std::unique_ptr<ManualFixture> fixture;
+    ManualPage page{"manual.ru.md", manualRussian};
 };
-
-void ManualRussianTest::pictureHasTheWindowsSize()
-{
-    QFETCH(int, scene);
-    compareSize(manualRussian, manualScenes().at(size_t(scene)));
-}
 
 QTEST_MAIN(ManualRussianTest)
 #include "manual_russian_test.moc"
