@@ -70,7 +70,8 @@ bool isWellFormed(const QByteArray &bytes)
 {
     int place = 0;
     while (place < bytes.size()) {
-        const int length = utf8SequenceAt(bytes, place);
+        const bool isAscii = uchar(bytes.at(place)) < 0x80; // as most of most texts is
+        const int length = isAscii ? 1 : utf8SequenceAt(bytes, place);
         if (length == 0)
             return false;
         place += length;

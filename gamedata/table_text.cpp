@@ -65,7 +65,7 @@ void forEachName(const QStringList &lines, int columnCount,
     int row = 0;
     for (const QString &line : lines) {
         if (!isBlank(line) && line.count(QLatin1Char('\t')) + 1 >= columnCount)
-            take(row++, line.section(QLatin1Char('\t'), 0, 0));
+            take(row++, line.left(line.indexOf(QLatin1Char('\t')))); // the whole without one
     }
 }
 
