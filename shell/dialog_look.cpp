@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QDialog>
 #include <QFontDatabase>
+#include <QHash>
 #include <QLabel>
 #include <QLayout>
 
@@ -10,9 +11,14 @@ namespace {
 
 constexpr int pointSize = 8;
 
+// Qt lists and sorts all families for the answer, however many are installed.
 bool isInstalled(const QString &family)
 {
-    return QFontDatabase().hasFamily(family);
+    static QHash<QString, bool> known;
+    const auto found = known.constFind(family);
+    if (found != known.constEnd())
+        return *found;
+    return *known.insert(family, QFontDatabase().hasFamily(family));
 }
 
 // The least that shows every text whole. Lists and previews are content with the form's size,
