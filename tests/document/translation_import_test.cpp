@@ -130,16 +130,14 @@ void TranslationImportTest::contextsTellWhereATextStands()
     QStringList contexts;
     for (const TextPlace &place : textPlaces(campaign))
         contexts << contextOf(campaign, place);
+    const QString first = "Scenario 1 (The Long Thaw, North Fen): ";
+    const QString third = "Scenario 3 (Frostmere, Old Mill): ";
     QCOMPARE(contexts,
              QStringList({"The campaign's name, at most 60 letters",
                           "The campaign's description, at most 300 letters",
-                          "Scenario 1 (The Long Thaw, North Fen): right-click text, at most 600 "
-                          "letters",
-                          "Scenario 1 (The Long Thaw, North Fen): prologue 1",
-                          "Scenario 1 (The Long Thaw, North Fen): prologue 3",
-                          "Scenario 1 (The Long Thaw, North Fen): epilogue 2",
-                          "Scenario 3 (Frostmere, Old Mill): right-click text, at most 600 "
-                          "letters"}));
+                          first + "right-click text, at most 600 letters", first + "prologue 1",
+                          first + "prologue 3", first + "epilogue 2",
+                          third + "right-click text, at most 600 letters"}));
     campaign.hasMap = false;
     QCOMPARE(contextOf(campaign, {TextKind::Prologue, 0, 1}),
              QString("Scenario 1 (The Long Thaw): prologue 2"));
