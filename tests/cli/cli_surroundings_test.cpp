@@ -28,6 +28,7 @@ private slots:
     void gitIsToldOfCampaignsTheSameWayEverywhere_data();
     void gitIsToldOfCampaignsTheSameWayEverywhere();
     void gitShowsTheChangedText();
+    void translatorsPageNamesWhatIsTold();
 
 private:
     void complete(const QString &shell);
@@ -320,6 +321,29 @@ void CliSurroundingsTest::gitShowsTheChangedText()
     }
     QCOMPARE(changes, QStringList({R"(- "regionText": "Beware\nof wolves",)",
                                    R"(+ "regionText": "Beware\nof bears",)"}));
+}
+
+void CliSurroundingsTest::translatorsPageNamesWhatIsTold()
+{
+    const QString page = QString::fromUtf8(contents(source + "/docs/for-translators.md"));
+    const QString campaign = samples::writeFile(m_home.filePath("home.e3c"), homeCampaign());
+    const QString texts =
+        samples::writeFile(m_home.filePath("home.po"),
+                           "msgctxt \"campaign.name\"\nmsgid \"Ember Road\"\nmsgstr \"\"\n"
+                           "#, fuzzy\n"
+                           "msgctxt \"campaign.description\"\nmsgid \"Three steps\"\nmsgstr \"D\"\n"
+                           "msgctxt \"scenario.1.region.text\"\nmsgid \"Old\"\nmsgstr \"Alt\"\n"
+                           "msgctxt \"scenario.9.prologue.1\"\nmsgid \"Gone\"\nmsgstr \"Weg\"\n");
+    const ChildResult result =
+        m_game.run({"import-texts", campaign, texts, m_home.filePath("out.e3c")});
+    QCOMPARE(result.exitCode, 0);
+    QStringList lines = QString::fromUtf8(result.error).split('\n', Qt::SkipEmptyParts);
+    lines.removeLast(); // how many were taken
+    QCOMPARE(lines.size(), 5);
+    for (const QString &line : qAsConst(lines)) {
+        const QString told = line.section(": ", 2);
+        QVERIFY2(page.contains("\n| `" + told + "` |"), qPrintable(told));
+    }
 }
 
 QTEST_GUILESS_MAIN(CliSurroundingsTest)
