@@ -35,9 +35,9 @@ QByteArray large(char byte)
 }
 
 // Noise that takes its time to be packed.
-QByteArray largeHead()
+QByteArray largeHead(int megabytes = 3)
 {
-    QByteArray bytes(3 * 1024 * 1024, '\0');
+    QByteArray bytes(megabytes * 1024 * 1024, '\0');
     quint32 state = 1;
     for (char &byte : bytes)
         byte = char((state = state * 1664525u + 1013904223u) >> 24);
@@ -348,7 +348,7 @@ void RecoveryCopiesTest::headIsPackedInFrontOfTheRest()
 
 void RecoveryCopiesTest::largeHeadIsPackedByAnotherProcess()
 {
-    const UnpackedFile content{largeHead(), {}};
+    const UnpackedFile content{largeHead(8), {}};
     RecoveryCopies copies(folder);
     const ProcessorTime timeOfKeeping;
     copies.keep("harbour", untitled, content);
