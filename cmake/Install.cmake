@@ -69,6 +69,8 @@ cmped_install_for_system(${share}/zsh/vendor-completions
 cmped_install_for_system(${CMAKE_INSTALL_MANDIR}/man1 ${CMPED_MAN_PAGES})
 cmped_install_for_system(${CMAKE_INSTALL_DOCDIR}
     ${manual}/manual.md
+    ${manual}/manual.ru.md
+    ${manual}/for-translators.md
     ${packaging}/debian/copyright
     ${CMPED_CHANGELOG})
 

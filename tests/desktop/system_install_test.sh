@@ -33,6 +33,8 @@ install_for_the_system() {
         share/applications/cmped.desktop share/mime/packages/cmped.xml \
         share/metainfo/cmped.metainfo.xml share/thumbnailers/cmped.thumbnailer \
         share/doc/cmped/manual.md share/doc/cmped/manual/en/main-window.png \
+        share/doc/cmped/manual.ru.md share/doc/cmped/manual/ru/main-window.png \
+        share/doc/cmped/for-translators.md \
         share/doc/cmped/copyright share/doc/cmped/changelog.gz \
         share/man/man1/cmped.1.gz share/man/man1/cmped-cli.1.gz \
         share/bash-completion/completions/cmped share/bash-completion/completions/cmped-cli \
