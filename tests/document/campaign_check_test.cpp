@@ -272,7 +272,8 @@ void CampaignCheckTest::faultsOfMapFilesAreTold_data()
         << QStringList(QString("file: %1 bytes stand behind its end").arg(map().size()));
     QTest::newRow("nobody") << samples::pack(samples::mapHeader(28, 0, 0))
                             << QStringList("file: nobody can play it");
-    QTest::newRow("large") << samples::packWithZeros(samples::mapHeader(28), qint64(300) * 1024 * 1024)
+    QTest::newRow("large") << samples::packWithZeros(samples::mapHeader(28),
+                                                     qint64(300) * 1024 * 1024)
                            << QStringList("file: is too large to be looked at whole");
 }
 
