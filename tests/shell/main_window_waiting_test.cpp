@@ -7,6 +7,7 @@
 
 #include <QDialogButtonBox>
 #include <QListWidget>
+#include <QPushButton>
 #include <QTextCodec>
 #include <QTranslator>
 
