@@ -424,7 +424,7 @@ void RecoveryCopiesTest::failedLargeCopyKeepsTheOldOne()
     copies.keep("harbour", untitled, {{}, {"short"}});
     const QStringList before = files();
     {
-        const FileSizeLimit limit(1024 * 1024);
+        const FileSizeLimit limit(1024UL * 1024);
         copies.keep("harbour", untitled, {{}, {large('x')}});
         copies.keep("harbour", untitled, {{}, {large('x')}}); // when the first of them has failed
         QVERIFY(!RecoveryCopies(folder).newestToOffer());
@@ -438,7 +438,7 @@ void RecoveryCopiesTest::failedLargeCopyKeepsTheOldOne()
 void RecoveryCopiesTest::failedFirstLargeCopyLeavesNothing()
 {
     RecoveryCopies copies(folder);
-    const FileSizeLimit limit(1024 * 1024);
+    const FileSizeLimit limit(1024UL * 1024);
     copies.keep("harbour", {home->filePath("harbour.e3c"), {}}, {{}, {large('x')}});
     copies.leave();
     QCOMPARE(files(), QStringList());

@@ -23,7 +23,7 @@ inline bool write(const QString &path, const QByteArray &bytes)
 // Makes a file as old as that.
 inline bool age(const QString &path, int minutes)
 {
-    const timespec moment{time(nullptr) - 60 * minutes, 0};
+    const timespec moment{time(nullptr) - 60L * minutes, 0};
     const timespec times[] = {moment, moment};
     return utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0) == 0;
 }
@@ -63,7 +63,7 @@ protected:
         auto copy = copies.newestToOffer();
         if (!copy)
             return {};
-        const QByteArray bytes = contents(copy->file.path);
+        QByteArray bytes = contents(copy->file.path);
         copies.markOffered(*copy);
         return bytes;
     }
