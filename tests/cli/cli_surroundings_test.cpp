@@ -144,8 +144,9 @@ QString pageText(const QString &program)
 // The two lines of configuration, whatever the game's folder is called in them.
 QString configurationIn(const QString &text)
 {
-    const QRegularExpression lines("git config (diff.cmped.textconv \"cmped-cli --game )[^ ]+"
-                                   "( dump\")\n[ $]*(echo .*\\.gitattributes)");
+    static const QRegularExpression lines(
+        "git config (diff.cmped.textconv \"cmped-cli --game )[^ ]+"
+        "( dump\")\n[ $]*(echo .*\\.gitattributes)");
     const auto match = lines.match(text);
     return match.hasMatch() ? "git config " + match.captured(1) + "DIR" + match.captured(2) + "\n" +
                                   match.captured(3)
@@ -176,12 +177,13 @@ void CliSurroundingsTest::complete(const QString &shell)
     environment.insert("CMPED_GAME_DIR", m_game.path());
     const ChildResult result = runChild("/bin/bash", words, environment);
     QVERIFY2(result.exitCode == 0, result.error);
+    static const QRegularExpression end("[/ =]$"); // behind folders and options
     QStringList *offered = nullptr;
     for (QString word : QString::fromUtf8(result.output).split('\n', Qt::SkipEmptyParts)) {
         if (word.startsWith("== "))
             offered = &m_offered[shell + ": " + word.mid(3)];
         else if (offered)
-            *offered << word.remove(QRegularExpression("[/ =]$")); // behind folders and options
+            *offered << word.remove(end);
     }
     for (QStringList &list : m_offered) {
         list.sort();
@@ -264,9 +266,9 @@ void CliSurroundingsTest::pagesTellOfEveryOption()
 void CliSurroundingsTest::pageTellsOfEveryCommand()
 {
     QStringList told;
-    auto matches =
-        QRegularExpression("^\\.It Cm ([a-z-]+)(.*)$", QRegularExpression::MultilineOption)
-            .globalMatch(pageText("cmped-cli"));
+    static const QRegularExpression command("^\\.It Cm ([a-z-]+)(.*)$",
+                                            QRegularExpression::MultilineOption);
+    auto matches = command.globalMatch(pageText("cmped-cli"));
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
         told << match.captured(1);
@@ -316,7 +318,7 @@ void CliSurroundingsTest::gitShowsTheChangedText()
     QVERIFY2(result.exitCode == 0, result.error);
     QStringList changes;
     for (const QString &line : QString::fromUtf8(result.output).split('\n')) {
-        if (QRegularExpression("^[-+] ").match(line).hasMatch())
+        if (line.startsWith("- ") || line.startsWith("+ "))
             changes << line.simplified();
     }
     QCOMPARE(changes, QStringList({R"(- "regionText": "Beware\nof wolves",)",
