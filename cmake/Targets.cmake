@@ -2,7 +2,6 @@
 # needs is seen by scripts/lint.sh, which goes without them.
 function(cmped_qt_headers name header library)
     add_library(${name} OBJECT ${PROJECT_SOURCE_DIR}/cmake/qt_headers.cpp)
-    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
     target_link_libraries(${name} PRIVATE cmped_options ${library})
     target_precompile_headers(${name} PRIVATE ${header})
 endfunction()
@@ -18,12 +17,16 @@ function(cmped_uses_qt name)
     endif()
 endfunction()
 
-# cmped_room(NAME SOURCES ... LINKS ...): one folder of the house, a static library.
+# cmped_room(NAME SOURCES ... LINKS ...): one folder of the house, a static library. Only those with
+# windows have something for moc, uic and rcc.
 function(cmped_room name)
     cmake_parse_arguments(ROOM "" "" "SOURCES;LINKS" ${ARGN})
     add_library(${name} STATIC ${ROOM_SOURCES})
     target_link_libraries(${name} PUBLIC cmped_options ${ROOM_LINKS})
     cmped_uses_qt(${name} ${ROOM_LINKS})
+    if("${ROOM_LINKS}" MATCHES "Qt5::Widgets")
+        set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
+    endif()
 endfunction()
 
 # What LeakSanitizer is told by tests that show windows: which leaks are not ours.
@@ -43,7 +46,7 @@ function(cmped_test name)
     qt5_generate_moc(${name}.cpp ${moc_output})
     add_executable(${name} ${name}.cpp ${moc_output})
     target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
-    set_target_properties(${name} PROPERTIES AUTOMOC OFF UNITY_BUILD OFF)
+    set_target_properties(${name} PROPERTIES UNITY_BUILD OFF)
     target_link_libraries(${name} PRIVATE cmped_test_support ${TEST_LINKS} Qt5::Test)
     # A test's main() knows windows only if the precompiled headers do.
     if(TEST_LINKS MATCHES "cmped_(dialogs|scenario|shell|widget)|manual_scenes|Qt5::Widgets")
