@@ -270,7 +270,7 @@ void ScenarioGeneralGraphTest::step(GeneralTab &tab, Model &model, QRandomGenera
 void ScenarioGeneralGraphTest::randomGraphsFollowTheModel_data()
 {
     QTest::addColumn<quint32>("seed");
-    constexpr quint32 seeds = sanitized ? 3 : 10;
+    constexpr quint32 seeds = sanitized ? 3 : 6;
     for (quint32 seed = 1; seed <= seeds; ++seed)
         QTest::addRow("seed %u", seed) << seed;
 }
