@@ -64,7 +64,7 @@ pass "a campaign's thumbnail is drawn"
 
 for program in cmped cmped-cli; do
     man "$program" >manual 2>log || fail "no manual of $program"
-    col -b <manual | grep -qx NAME || fail "the manual of $program is empty"
+    grep -qx NAME < <(col -b <manual) || fail "the manual of $program is empty"
     [ ! -s log ] || fail "the manual of $program has faults: $(cat log)"
 done
 pass "man shows the manuals of both programs"
