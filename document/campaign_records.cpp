@@ -19,6 +19,7 @@
 #include "document/campaign_records.h"
 
 #include "document/campaign_primitives.h"
+#include "document/start_option_values.h"
 #include "gamedata/editor_data.h"
 #include "gamedata/limits.h"
 
@@ -111,7 +112,7 @@ qint64 prerequisiteBytes(unsigned int scenarioCount)
 
 qint64 bonusMemory(const ScenarioData &scenario)
 {
-    if (!scenario.startOptions || scenario.startOptions->optionType != 1)
+    if (!scenario.startOptions || scenario.startOptions->optionType != BonusOption)
         return 0;
     const auto set = scenario.startOptions->optionData.value<StartingBonusSet>();
     return qint64(set.bonuses.size()) * limits::bonusBytes;

@@ -18,6 +18,7 @@
 //
 // A list is a count of one byte and that many entries.
 #include "document/campaign_primitives.h"
+#include "document/start_option_values.h"
 #include "document/start_options.h"
 
 #include <algorithm>
@@ -205,7 +206,7 @@ void writeEmptyBonusList(QDataStream &stream, const ScenarioData &scenario)
     unsigned player = 0;
     while (player < players && !playerCanTakeHero(scenario, {}, player))
         ++player;
-    stream << quint8(1) << quint8(player < players ? player : 0) << quint8(0);
+    stream << quint8(BonusOption) << quint8(player < players ? player : 0) << quint8(0);
 }
 
 } // namespace
@@ -214,16 +215,16 @@ void ScenarioData::ReadStartOptions(QDataStream &stream)
 {
     const auto type = readNumber<quint8>(stream);
     QVariant data;
-    if (type == 1) {
+    if (type == BonusOption) {
         StartingBonusSet set;
         stream >> set.player;
         readList(stream, set.bonuses);
         data = QVariant::fromValue(set);
-    } else if (type == 2) {
+    } else if (type == CrossoverOption) {
         HeroCrossoverSet set;
         readList(stream, set.entries);
         data = QVariant::fromValue(set);
-    } else if (type == 3) {
+    } else if (type == HeroOption) {
         StartingHeroSet set;
         readList(stream, set.entries);
         data = QVariant::fromValue(set);
@@ -241,14 +242,14 @@ void ScenarioData::WriteStartOptions(QDataStream &stream)
     // A type that doesn't fit its byte is unknown as well and mustn't look like another.
     const quint32 type =
         startOptions && startOptions->optionType <= 255 ? startOptions->optionType : 0;
-    if (type == 1) {
+    if (type == BonusOption) {
         const auto set = startOptions->optionData.value<StartingBonusSet>();
         stream << quint8(type) << set.player;
         writeList(stream, set.bonuses);
-    } else if (type == 2) {
+    } else if (type == CrossoverOption) {
         stream << quint8(type);
         writeList(stream, startOptions->optionData.value<HeroCrossoverSet>().entries);
-    } else if (type == 3) {
+    } else if (type == HeroOption) {
         const auto set = startOptions->optionData.value<StartingHeroSet>();
         if (set.entries.empty()) {
             writeEmptyBonusList(stream, *this);

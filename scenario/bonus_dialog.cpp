@@ -5,7 +5,7 @@
 #include "scenario/bonus_text.h"
 #include "scenario/bonus_type.h"
 #include "scenario/bonus_value_dlg.h"
-#include "scenario/map_player.h"
+#include "document/map_player.h"
 #include "shell/chosen_button.h"
 #include "shell/dialog_look.h"
 #include "ui_bonus_dialog.h"

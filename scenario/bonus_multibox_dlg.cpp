@@ -3,7 +3,7 @@
 #include "document/start_options.h"
 #include "gamedata/editor_data.h"
 #include "scenario/bonus_type.h"
-#include "scenario/map_player.h"
+#include "document/map_player.h"
 #include "scenario/naming.h"
 #include "scenario/option_page.h"
 #include "shell/choice_box.h"

@@ -3,7 +3,7 @@
 #include "gamedata/editor_data.h"
 #include "gamedata/report.h"
 #include "scenario/bonus_type.h"
-#include "scenario/map_player.h"
+#include "document/map_player.h"
 #include "scenario/naming.h"
 
 #include <QObject>

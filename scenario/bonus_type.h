@@ -1,30 +1,19 @@
-// The kinds of bonus, what they say in numbers, and where the item of a row keeps its own.
+// What bonuses say in numbers, and where the item of a row keeps its kind.
 #pragma once
+
+#include "document/start_option_values.h"
 
 #include <QTableWidgetItem>
 
 #include <array>
 
-// As stored in files.
-enum class BonusType : unsigned char
-{
-    Spell,
-    Creature,
-    Building,
-    Artifact,
-    Scroll,
-    PrimarySkill,
-    SecondarySkill,
-    Resource,
-};
-
-// Numbers of a bonus that stand for several resources at once, and the game's texts for them.
+// Resources that a bonus gives at once, and the game's texts for them.
 struct ResourceGroup
 {
     int resource;
     int text; // in EditorData::jktext
 };
-constexpr std::array<ResourceGroup, 2> resourceGroups{{{0xFD, 27}, {0xFE, 28}}};
+constexpr std::array<ResourceGroup, 2> resourceGroups{{{woodAndOre, 27}, {rareResources, 28}}};
 
 constexpr int bonusTypeRole = Qt::UserRole + 1; // an unsigned char; the record is one role below
 

@@ -9,13 +9,6 @@
 
 #include <algorithm>
 
-namespace {
-
-constexpr int mostOfASkill = 99;
-constexpr int mostOfAResource = 99999;
-
-} // namespace
-
 bonus_value_dlg::bonus_value_dlg(QWidget *parent)
     : QWidget(parent), ui(std::make_unique<Ui_bonus_value_dlg>())
 {

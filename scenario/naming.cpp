@@ -2,7 +2,7 @@
 
 #include "document/campaign_data.h"
 #include "gamedata/editor_data.h"
-#include "scenario/map_player.h"
+#include "document/map_player.h"
 #include "shell/shown_text.h"
 
 #include <QComboBox>

@@ -6,17 +6,13 @@
 #pragma once
 
 #include "document/scenario_names.h"
+#include "document/start_option_values.h"
 
 #include <QBitArray>
 #include <QString>
 
 class QComboBox;
 class ScenarioData;
-
-// Hero numbers of bonuses and starting heroes that are no heroes of the game's table.
-constexpr unsigned short HeroIdMostPowerful = 0xFFFD; // the player's strongest hero
-constexpr unsigned short HeroIdGenerated = 0xFFFE;    // the one that the main town brings forth
-constexpr unsigned short HeroIdRandom = 0xFFFF;
 
 // The name of the player's colour.
 QString colourName(unsigned int player);

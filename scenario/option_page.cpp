@@ -102,7 +102,7 @@ QTableWidgetItem *OptionPage::appendRow()
 QTableWidgetItem *OptionPage::addRow()
 {
     QTableWidgetItem *item = appendRow();
-    if (m_table->rowCount() >= mostOptions)
+    if (m_table->rowCount() >= mostStartOptions)
         m_add->setEnabled(false);
     return item;
 }
@@ -114,7 +114,7 @@ void OptionPage::clearUI()
 
 void OptionPage::updateUI()
 {
-    if (m_table->rowCount() < mostOptions)
+    if (m_table->rowCount() < mostStartOptions)
         m_add->setEnabled(true);
 }
 

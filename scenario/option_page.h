@@ -7,6 +7,8 @@
 // The dialogs that edit a row use the functions for rows and records at the end.
 #pragma once
 
+#include "document/start_option_values.h"
+
 #include <QTableWidget>
 #include <QWidget>
 
@@ -17,20 +19,11 @@
 class QPushButton;
 class ScenarioData;
 
-// The kinds of start options, as they are stored; 0 is none.
-enum StartOptionType : unsigned int
-{
-    BonusOption = 1,
-    CrossoverOption = 2,
-    HeroOption = 3,
-};
-
 class OptionPage : public QWidget
 {
     Q_OBJECT
 
 public:
-    static constexpr int mostOptions = 3;
     static constexpr int rowHeight = 17; // pixels
 
     // Takes all rows away.

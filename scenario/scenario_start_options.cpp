@@ -2,7 +2,7 @@
 
 #include "document/campaign_data.h"
 #include "scenario/hero_crossover.h"
-#include "scenario/map_player.h"
+#include "document/map_player.h"
 #include "scenario/scenario_host.h"
 #include "scenario/starting_bonus.h"
 #include "scenario/starting_hero_options.h"

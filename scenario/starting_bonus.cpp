@@ -5,7 +5,7 @@
 #include "scenario/bonus_text.h"
 #include "scenario/bonus_type.h"
 #include "scenario/naming.h"
-#include "scenario/starting_bonus_rules.h"
+#include "document/starting_bonus_rules.h"
 #include "shell/choice_box.h"
 #include "ui_StartingBonus.h"
 
@@ -161,7 +161,7 @@ void StartingBonus::addItem()
     BonusDialog dialog(this, scenario, campaignMap, currentPlayer(), nullptr);
     if (dialog.exec() == QDialog::Accepted)
         dialog.updateBonus(appendRow());
-    if (table()->rowCount() >= mostOptions)
+    if (table()->rowCount() >= mostStartOptions)
         addButton()->setEnabled(false);
 }
 

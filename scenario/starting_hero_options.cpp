@@ -1,6 +1,6 @@
 #include "scenario/starting_hero_options.h"
 
-#include "scenario/map_player.h"
+#include "document/map_player.h"
 #include "scenario/naming.h"
 #include "scenario/starting_hero_dialog.h"
 #include "scenario/starting_hero_rules.h"
@@ -49,7 +49,7 @@ void StartingHeroOptions::checkAdd(ScenarioData *ofScenario, QTableWidgetItem *)
     bool possible = false;
     for (unsigned int player = 0; player < playerCount && !possible; ++player)
         possible = StartingHero_CanAddPlayer(ofScenario, table(), nullptr, player);
-    addButton()->setEnabled(possible && table()->rowCount() < mostOptions);
+    addButton()->setEnabled(possible && table()->rowCount() < mostStartOptions);
 }
 
 void StartingHeroOptions::addItem()

@@ -1,7 +1,10 @@
 #include "document/check/option_check.h"
 
 #include "document/campaign_data.h"
+#include "document/map_player.h"
 #include "document/prerequisites.h"
+#include "document/start_option_values.h"
+#include "document/starting_bonus_rules.h"
 #include "gamedata/editor_data.h"
 
 #include <algorithm>
@@ -9,19 +12,12 @@
 
 namespace {
 
-// Hero numbers that are no heroes of the game's table.
-constexpr quint16 mostPowerfulHero = 0xFFFD;
-constexpr quint16 generatedHero = 0xFFFE;
-constexpr quint16 randomHero = 0xFFFF;
-
-constexpr quint8 randomTown = 0xFF;
-constexpr quint8 woodAndOre = 0xFD; // kinds of resources beyond the game's table
-constexpr quint8 rareResources = 0xFE;
-
-constexpr std::size_t mostChoices = 3;
-constexpr int mostCreatures = 9999;
-constexpr int mostResources = 99999;
-constexpr quint8 mostSkill = 99;
+// Whom bonuses go to. Null attributes beyond the map's players.
+struct BonusPlayer
+{
+    const PlayerAttributes *attributes;
+    StartingBonusRules rules;
+};
 
 class OptionCheck
 {
@@ -35,15 +31,15 @@ public:
     void run()
     {
         const CmpScenarioStartOptions &options = *m_scenario.startOptions;
-        if (optionCount(m_campaign, m_index) > mostChoices)
+        if (optionCount(m_campaign, m_index) > unsigned(mostStartOptions))
             find(QStringLiteral("%1 choices, the editor makes at most %2")
                      .arg(optionCount(m_campaign, m_index))
-                     .arg(mostChoices));
-        if (options.optionType == 1)
+                     .arg(mostStartOptions));
+        if (options.optionType == BonusOption)
             checkBonuses(options.optionData.value<StartingBonusSet>());
-        else if (options.optionType == 2)
+        else if (options.optionType == CrossoverOption)
             checkCrossovers(options.optionData.value<HeroCrossoverSet>());
-        else if (options.optionType == 3)
+        else if (options.optionType == HeroOption)
             checkHeroes(options.optionData.value<StartingHeroSet>());
     }
 
@@ -103,39 +99,41 @@ private:
         if (set.bonuses.empty())
             return;
         checkPlayer(set.player);
+        const BonusPlayer player{playerOnMap(m_scenario, set.player),
+                                 StartingBonusRules(m_scenario, set.player)};
         for (const CmpStartingBonus &bonus : set.bonuses) {
             ++m_choice;
-            checkBonus(bonus, set.player);
+            checkBonus(bonus, player);
         }
     }
 
-    void checkBonus(const CmpStartingBonus &bonus, unsigned int player)
+    void checkBonus(const CmpStartingBonus &bonus, const BonusPlayer &player)
     {
         const QVariant &data = bonus.bonusData;
-        switch (bonus.bonusType) {
-        case 0:
+        switch (BonusType(bonus.bonusType)) {
+        case BonusType::Spell:
             checkSpell(data.value<BonusSpell>(), player);
             break;
-        case 1:
+        case BonusType::Creature:
             checkCreature(data.value<BonusCreature>(), player);
             break;
-        case 2:
+        case BonusType::Building:
             checkBuilding(data.value<BonusBuilding>(), player);
             break;
-        case 3:
+        case BonusType::Artifact:
             checkHeroOf(player, data.value<BonusArtifact>().heroId);
             checkNumber(EditorData::artifacts, data.value<BonusArtifact>().artifactId, "artifact");
             break;
-        case 4:
+        case BonusType::Scroll:
             checkSpell(data.value<BonusScroll>(), player);
             break;
-        case 5:
+        case BonusType::PrimarySkill:
             checkSkills(data.value<BonusPrimarySkill>(), player);
             break;
-        case 6:
+        case BonusType::SecondarySkill:
             checkSecondarySkill(data.value<BonusSecondarySkill>(), player);
             break;
-        case 7:
+        case BonusType::Resource:
             checkResource(data.value<BonusResource>());
             break;
         default:
@@ -144,31 +142,30 @@ private:
         }
     }
 
-    void checkHeroOf(unsigned int player, quint16 hero)
+    void checkHeroOf(const BonusPlayer &player, quint16 hero)
     {
-        if (player >= m_header.players.size() || hero == mostPowerfulHero)
+        if (!player.attributes || player.rules.allowsHero(hero))
             return;
-        const PlayerAttributes &attributes = m_header.players[player];
-        if (hero == generatedHero) {
-            if (!townMakesHero(attributes))
-                find(QStringLiteral("the player's main town makes no hero"));
-        } else if (!standsOnMap(attributes, hero)) {
+        if (hero == HeroIdGenerated)
+            find(QStringLiteral("the player's main town makes no hero"));
+        else if (!standsOnMap(*player.attributes, hero))
             find(QStringLiteral("the player has no hero %1 on this map").arg(hero));
-        }
+        else
+            find(QStringLiteral("the game has no hero %1").arg(hero));
     }
 
     template<typename Bonus>
-    void checkSpell(const Bonus &bonus, unsigned int player)
+    void checkSpell(const Bonus &bonus, const BonusPlayer &player)
     {
         checkHeroOf(player, bonus.heroId);
         checkNumber(EditorData::spells, bonus.spellId, "spell");
     }
 
-    void checkCreature(const BonusCreature &bonus, unsigned int player)
+    void checkCreature(const BonusCreature &bonus, const BonusPlayer &player)
     {
         checkHeroOf(player, bonus.heroId);
         checkNumber(EditorData::creatures, bonus.creatureId, "creature");
-        checkRange(bonus.amount, 1, mostCreatures, "creatures");
+        checkRange(bonus.amount, 1, mostOfACreature, "creatures");
     }
 
     static bool hasBuilding(int town, int building)
@@ -177,30 +174,30 @@ private:
         return buildings != EditorData::buildings.end() && buildings->second.count(building) > 0;
     }
 
-    void checkBuilding(const BonusBuilding &bonus, unsigned int player)
+    void checkBuilding(const BonusBuilding &bonus, const BonusPlayer &player)
     {
-        if (player >= m_header.players.size())
+        if (!player.attributes)
             return;
-        const PlayerAttributes &attributes = m_header.players[player];
-        if (!attributes.hasMainTown || attributes.mainTownType == randomTown)
+        const int town = player.attributes->mainTownType;
+        if (!player.attributes->hasMainTown || town == randomTown)
             find(QStringLiteral("a building, but the player has no main town of a known kind"));
-        else if (!BuildingIsValidForTown(bonus.buildingId, attributes.mainTownType))
+        else if (!player.rules.allowsBuilding(bonus.buildingId))
             find(QStringLiteral("the player's main town can't have building %1")
                      .arg(bonus.buildingId));
-        else if (!hasBuilding(attributes.mainTownType, bonus.buildingId))
+        else if (!hasBuilding(town, bonus.buildingId))
             find(QStringLiteral("the game has no building %1 in that town").arg(bonus.buildingId));
     }
 
-    void checkSkills(const BonusPrimarySkill &bonus, unsigned int player)
+    void checkSkills(const BonusPrimarySkill &bonus, const BonusPlayer &player)
     {
         checkHeroOf(player, bonus.heroId);
         const auto [least, most] = std::minmax_element(bonus.skills.begin(), bonus.skills.end());
-        checkRange(*most, 0, mostSkill, "points of a skill");
+        checkRange(*most, 0, mostOfASkill, "points of a skill");
         if (*least == 0 && *most == 0)
             find(QStringLiteral("a bonus of skills that adds none"));
     }
 
-    void checkSecondarySkill(const BonusSecondarySkill &bonus, unsigned int player)
+    void checkSecondarySkill(const BonusSecondarySkill &bonus, const BonusPlayer &player)
     {
         checkHeroOf(player, bonus.heroId);
         checkNumber(EditorData::secondarySkills, bonus.skillId, "secondary skill");
@@ -211,7 +208,7 @@ private:
     {
         if (bonus.resourceId != woodAndOre && bonus.resourceId != rareResources)
             checkNumber(EditorData::resources, bonus.resourceId, "resource");
-        checkRange(bonus.amount, 1, mostResources, "of a resource");
+        checkRange(bonus.amount, 1, mostOfAResource, "of a resource");
     }
 
     void checkCrossovers(const HeroCrossoverSet &set)
@@ -270,9 +267,9 @@ private:
             return;
         if (!townMakesHero(player))
             find(QStringLiteral("the player has no hero %1 on this map").arg(hero));
-        else if (hero != randomHero && EditorData::heroes.count(hero) == 0)
+        else if (hero != HeroIdRandom && EditorData::heroes.count(hero) == 0)
             find(QStringLiteral("the game has no hero %1").arg(hero));
-        else if (hero != randomHero && isDisabled(hero))
+        else if (hero != HeroIdRandom && isDisabled(hero))
             find(QStringLiteral("this map doesn't allow hero %1").arg(hero));
     }
 
@@ -300,11 +297,11 @@ unsigned int optionCount(const CampaignData &campaign, unsigned int index)
         return 0;
     const QVariant &data = options->optionData;
     switch (options->optionType) {
-    case 1:
+    case BonusOption:
         return unsigned(data.value<StartingBonusSet>().bonuses.size());
-    case 2:
+    case CrossoverOption:
         return unsigned(data.value<HeroCrossoverSet>().entries.size());
-    case 3:
+    case HeroOption:
         return unsigned(data.value<StartingHeroSet>().entries.size());
     default:
         return 0;

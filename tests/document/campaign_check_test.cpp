@@ -65,6 +65,7 @@ void CampaignCheckTest::initTestCase()
 {
     QVERIFY(setLocaleCodec("UTF-8"));
     m_game.load();
+    addHeroes();
 }
 
 void CampaignCheckTest::compare()
@@ -86,6 +87,12 @@ void CampaignCheckTest::soundCampaignsAreSilent_data()
             c.name = QByteArray(60, 'x');
             c.description = QByteArray(300, 'x');
             c.records[0].regionText = QByteArray(600, 'x');
+        },
+        {});
+    row("byte order marks and characters of four bytes",
+        [](Campaign &c) {
+            c.name = "\xEF\xBB\xBF" "Ember Road";
+            c.description = "Three \xEF\xBB\xBFsteps \xF0\x9F\x98\x80";
         },
         {});
     row("story", [](Campaign &c) { c.records[0].stories.replace(0, 1, story(2, 2)); }, {});

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "document/check/campaign_check.h"
+#include "gamedata/editor_data.h"
 #include "tests/document/samples.h"
 
 #include <QStringList>
@@ -127,6 +128,14 @@ inline QByteArray story(unsigned video, unsigned music)
 constexpr unsigned richPlayer = 0;
 constexpr unsigned poorPlayer = 2;
 constexpr unsigned ownHero = 41;
+constexpr unsigned heroBeyondTable = 42;
+
+// Gives the tiny game's table of heroes as many as the map's first one takes, and not the second.
+inline void addHeroes()
+{
+    for (unsigned hero = 0; hero <= ownHero; ++hero)
+        EditorData::heroes.emplace(int(hero), "Hero");
+}
 
 inline ByteWriter bonuses(unsigned count, unsigned player = richPlayer)
 {

@@ -43,6 +43,7 @@ void OptionCheckTest::initTestCase()
 {
     QVERIFY(setLocaleCodec("UTF-8"));
     m_game.load();
+    addHeroes();
 }
 
 void OptionCheckTest::faultsOfOptionsAreTold_data()
@@ -93,6 +94,8 @@ void OptionCheckTest::faultsOfOptionsAreTold_data()
             {all + "nobody can play player 9 on this map"});
     options("foreign hero", bonuses(1).u8(0).u16(foreignHero).u8(spell).bytes(),
             {one + "the player has no hero 7 on this map"});
+    options("hero beyond the table", bonuses(1).u8(0).u16(heroBeyondTable).u8(spell).bytes(),
+            {one + "the game has no hero 42"});
     options("hero of no town", bonuses(1, poorPlayer).u8(0).u16(generated).u8(spell).bytes(),
             {one + "the player's main town makes no hero"});
     options("spell", bonuses(1).u8(0).u16(ownHero).u8(unknown).bytes(),

@@ -1,5 +1,5 @@
 // Which bonuses a player may have on the map at hand.
-#include "scenario/starting_bonus_rules.h"
+#include "document/starting_bonus_rules.h"
 
 #include "tests/scenario/bonus_rows.h"
 

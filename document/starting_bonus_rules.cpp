@@ -1,9 +1,8 @@
-#include "scenario/starting_bonus_rules.h"
+#include "document/starting_bonus_rules.h"
 
+#include "document/map_player.h"
+#include "document/start_option_values.h"
 #include "gamedata/editor_data.h"
-#include "scenario/bonus_type.h"
-#include "scenario/map_player.h"
-#include "scenario/naming.h"
 
 #include <QDebug>
 

@@ -19,11 +19,10 @@ public:
 
     // A payload of another kind than the bonus type says counts as all zeros.
     bool allows(const CmpStartingBonus &bonus) const;
-
-private:
     bool allowsHero(unsigned int hero) const;
     bool allowsBuilding(unsigned int building) const;
 
+private:
     QBitArray heroesOnMap; // a bit for each hero of the game's table
     bool generatesHero = false;
     bool hasMainTown = false;
