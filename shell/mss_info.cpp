@@ -37,9 +37,10 @@ MssInfo *mss = nullptr;
 void MssInfo::LoadDll()
 {
     m_library = loadSoundLibrary();
-    if (!m_library)
+    const auto entryPoints = m_library ? soundEntryPoints(m_library) : std::nullopt;
+    if (!entryPoints)
         endSilently(0);
-    m_entryPoints = soundEntryPoints(m_library);
+    m_entryPoints = *entryPoints;
     InitMgr();
 }
 

@@ -16,8 +16,8 @@
 class MssInfo
 {
 public:
-    // Loads the sound library and starts it (InitMgr). A system without one ends the process with
-    // exit code 0 and without a word.
+    // Loads the sound library and starts it (InitMgr). A system without one, or with one that
+    // lacks a call, ends the process with exit code 0 and without a word.
     void LoadDll();
 
     // Starts the library and opens the driver: 44.1 kHz, 16 bits, stereo. A driver that fails is

@@ -7,7 +7,9 @@
 #include <SDL.h>
 #include <SDL_mixer.h>
 
-// What the music asks of the library. A name that the library lacks is null.
+#include <optional>
+
+// What the music asks of the library.
 struct SoundEntryPoints
 {
     decltype(&SDL_SetHint) setHint = nullptr;
@@ -26,4 +28,5 @@ struct SoundEntryPoints
 // process ends; every further call is quick. May be called from any thread.
 void *loadSoundLibrary();
 
-SoundEntryPoints soundEntryPoints(void *library);
+// Nothing if the library lacks one of them.
+std::optional<SoundEntryPoints> soundEntryPoints(void *library);

@@ -16,6 +16,8 @@
 #include <csignal>
 #include <cstdio>
 
+#include <dlfcn.h>
+
 namespace {
 
 constexpr char childVariable[] = "MSS_DRIVER_TEST_CHILD";
@@ -71,7 +73,8 @@ private slots:
     void driverThatFailsIsToldOnce_data();
     void driverThatFailsIsToldOnce();
     void dummyDriverIsSilentAndContent();
-    void missingLibraryEndsTheProcessWithoutAWord();
+    void unusableLibraryEndsTheProcessWithoutAWord_data();
+    void unusableLibraryEndsTheProcessWithoutAWord();
 
 private:
     ChildResult start(const char *variable, const QByteArray &value) const;
@@ -126,12 +129,24 @@ void MssDriverTest::dummyDriverIsSilentAndContent()
                                        "driver 1, samples 14, stream 0, initialized 1\n"));
 }
 
-// A file in the library's place that is no library is as good as none.
-void MssDriverTest::missingLibraryEndsTheProcessWithoutAWord()
+void MssDriverTest::unusableLibraryEndsTheProcessWithoutAWord_data()
 {
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("no library at all") << QByteArray(1000, 'x');
+    // Any other one will do.
+    Dl_info other = {};
+    QVERIFY(dladdr(reinterpret_cast<void *>(&qVersion), &other) != 0);
+    QFile file(QFile::decodeName(other.dli_fname));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QTest::newRow("without the calls") << file.readAll();
+}
+
+void MssDriverTest::unusableLibraryEndsTheProcessWithoutAWord()
+{
+    QFETCH(QByteArray, content);
     QFile library(m_dir.filePath("libSDL2_mixer-2.0.so.0"));
     QVERIFY(library.open(QIODevice::WriteOnly));
-    library.write(QByteArray(1000, 'x'));
+    QCOMPARE(library.write(content), content.size());
     library.close();
     const ChildResult result = start("LD_LIBRARY_PATH", QFile::encodeName(m_dir.path()));
     QVERIFY(result.exitedNormally);
