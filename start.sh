@@ -26,11 +26,13 @@ make_sample_game() {
     touch "$game/.complete"
 }
 
-# Leaves the window's id in `window`, never the splash picture's; gives up after a minute or when
-# the editor has ended.
+# Leaves the id of the editor's window in `window`, which bears the beginning of the file's
+# name, as the splash picture doesn't; gives up after a minute or when the editor has ended.
 wait_for_window() {
+    local name
+    name=$(basename -- "$campaign" | cut -c 1-30 | sed 's/[][\\.*^$+?(){}|]/\\&/g')
     for _ in $(seq 300); do
-        window=$(xdotool search --all --onlyvisible --pid "$editor" --name '\.e3c' 2>/dev/null |
+        window=$(xdotool search --all --onlyvisible --pid "$editor" --name "$name" 2>/dev/null |
             head -n 1) || true
         [ -n "$window" ] && return 0
         kill -0 "$editor" 2>/dev/null || die "The editor ended before its window came up; its log is in $log."
