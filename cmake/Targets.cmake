@@ -33,8 +33,8 @@ endfunction()
 set(CMPED_LEAK_OPTIONS
     "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/leaks.supp:print_suppressions=0")
 
-# cmped_test(NAME [TIMEOUT SECONDS] LINKS ...): one Qt Test program, tests/NAME.cpp, run by CTest
-# on the offscreen platform. It has one class that moc has to see, so moc is called for it alone:
+# cmped_test(NAME [TIMEOUT SECONDS] LINKS ...): one Qt Test program, NAME.cpp of the calling
+# folder, run by CTest on the offscreen platform. It has one class that moc has to see, so moc is called for it alone:
 # a search for more costs as much as compiling. The sample game's folder is CMPED_SAMPLE_GAME in
 # its environment; what it writes into the user's data folder stays in the build.
 function(cmped_test name)

@@ -1,4 +1,4 @@
-# What start.sh and test.sh share: saying what is done, installing what is missing, building.
+# What the scripts share: saying what is done, installing what is missing, building.
 # Sourced from the project's folder; not run by itself.
 # shellcheck shell=bash
 

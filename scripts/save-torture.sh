@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Kills saves at random moments, far oftener than the ordinary tests do, and then injects every fault
-# and fills disks at every page; and kills the editor at every call that keeps a recovery copy. Prints what came of it. Root mounts the disks; without it they are
-# skipped.
+# Kills saves at random moments, far oftener than the ordinary tests do, then injects every fault,
+# fills disks at every page, and kills the editor at every call that keeps a recovery copy. Prints
+# what came of it. Root mounts the disks; without it they are skipped.
 #   scripts/save-torture.sh [KILLS]   so many kills in each way, 500 if not said
 set -euo pipefail
 
