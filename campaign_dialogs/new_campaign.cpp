@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr int defaultMap = 24;
 constexpr int highestOfferedLayout = 1;
 
 bool isOffered(const CampaignInfo &map)
@@ -71,7 +70,7 @@ void NewCampaign::setCampaignMapList()
             continue;
         auto *item = new QListWidgetItem(map.name);
         item->setData(idRole, number);
-        ui->listWidget->insertItem(number == defaultMap ? 0 : ui->listWidget->count(), item);
+        ui->listWidget->insertItem(number == firstMap ? 0 : ui->listWidget->count(), item);
     }
     ui->listWidget->setCurrentRow(0);
 }
