@@ -2,46 +2,19 @@
 #include "gamedata/escaped_utf8.h"
 #include "tests/shell/recovery_folder.h"
 #include "tests/support/disk_faults.h"
-#include "tests/support/processor_time.h"
 
 #include <QDateTime>
-#include <QDeadlineTimer>
 #include <QRegularExpression>
 #include <QTextCodec>
 
-#include <csignal>
-
-#include <dlfcn.h>
-#include <sched.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
-
-// A handle is moved to its file's start only once there is something in the file.
-bool movesLate = false;
 
 mode_t modeOf(const QString &path)
 {
     struct stat status = {};
     return stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
-}
-
-// More than is written while one waits.
-QByteArray large(char byte)
-{
-    return QByteArray(40 * 1024 * 1024, byte);
-}
-
-// Noise that takes its time to be packed.
-QByteArray largeHead(int megabytes = 3)
-{
-    QByteArray bytes(megabytes * 1024 * 1024, '\0');
-    quint32 state = 1;
-    for (char &byte : bytes)
-        byte = char((state = state * 1664525u + 1013904223u) >> 24);
-    return bytes;
 }
 
 // The folder's name is in front of the parts that matter.
@@ -52,20 +25,6 @@ QString withoutTime(const QString &name)
 }
 
 } // namespace
-
-// Stands before the C library's, for Qt too.
-extern "C" __attribute__((visibility("default"))) off64_t lseek64(int handle, off64_t place,
-                                                                  int whence) noexcept
-{
-    using Function = off64_t (*)(int, off64_t, int);
-    static const auto real = reinterpret_cast<Function>(dlsym(RTLD_NEXT, "lseek64"));
-    struct stat status = {};
-    const QDeadlineTimer limit(60000);
-    if (movesLate && whence == SEEK_SET && place == 0)
-        while (!limit.hasExpired() && fstat(handle, &status) == 0 && status.st_size == 0)
-            sched_yield();
-    return real(handle, place, whence);
-}
 
 class RecoveryCopiesTest : public QObject, private RecoveryFolder
 {
@@ -90,19 +49,6 @@ private slots:
     void damagedNoteIsNoOrigin();
     void failedRenewalKeepsTheOldCopy();
     void failedFirstCopyLeavesNothing();
-    void largeCopyHoldsThePiecesInOrder();
-    void placeOfTheEditorsHandleIsNothingToTheOtherProcess();
-    void headIsPackedInFrontOfTheRest_data();
-    void headIsPackedInFrontOfTheRest();
-    void largeHeadIsPackedByAnotherProcess();
-    void largeCopyIsWrittenWhateverBecomesOfTheEditor_data();
-    void largeCopyIsWrittenWhateverBecomesOfTheEditor();
-    void laterCopyComesLastHoweverLarge_data();
-    void laterCopyComesLastHoweverLarge();
-    void removedLargeCopyDoesNotComeBack();
-    void failedLargeCopyKeepsTheOldOne();
-    void failedFirstLargeCopyLeavesNothing();
-    void nobodyIsOfferedACopyThatIsBeingWritten();
     void placeThatCantBeWrittenIsNoTrouble();
     void folderAndFilesArePrivate();
 };
@@ -304,155 +250,6 @@ void RecoveryCopiesTest::failedFirstCopyLeavesNothing()
     QCOMPARE(files(), QStringList());
     copies.keep("harbour", untitled, {{}, {"this is longer than allowed"}});
     QCOMPARE(files().size(), 1);
-}
-
-void RecoveryCopiesTest::largeCopyHoldsThePiecesInOrder()
-{
-    RecoveryCopies copies(folder);
-    copies.keep("harbour", untitled, {{}, {"one", large('x'), "two"}});
-    copies.leave();
-    QCOMPARE(files().size(), 1);
-    QCOMPARE(withoutTime(files()[0]), QString("harbour.e3c"));
-    QCOMPARE(modeOf(path(files()[0])), mode_t(0600));
-    QVERIFY(contents(path(files()[0])) == "one" + large('x') + "two");
-    QVERIFY(copies.newestToOffer());
-}
-
-// Both have the same open file, and Qt moves to its start before it closes a temporary one.
-void RecoveryCopiesTest::placeOfTheEditorsHandleIsNothingToTheOtherProcess()
-{
-    RecoveryCopies copies(folder);
-    movesLate = true;
-    copies.keep("harbour", untitled, {{}, {"one", large('x'), "two"}});
-    movesLate = false;
-    copies.leave();
-    QVERIFY(contents(path(files()[0])) == "one" + large('x') + "two");
-}
-
-void RecoveryCopiesTest::headIsPackedInFrontOfTheRest_data()
-{
-    QTest::addColumn<QByteArray>("head");
-    QTest::newRow("small") << QByteArray("head");
-    QTest::newRow("large") << largeHead();
-}
-
-void RecoveryCopiesTest::headIsPackedInFrontOfTheRest()
-{
-    QFETCH(QByteArray, head);
-    RecoveryCopies copies(folder);
-    copies.keep("harbour", untitled, {head, {"one", "", "two"}});
-    copies.leave();
-    QCOMPARE(files().size(), 1);
-    QVERIFY(contents(path(files()[0])) == packGzipMember(head) + "onetwo");
-}
-
-void RecoveryCopiesTest::largeHeadIsPackedByAnotherProcess()
-{
-    const UnpackedFile content{largeHead(8), {}};
-    RecoveryCopies copies(folder);
-    const ProcessorTime timeOfKeeping;
-    copies.keep("harbour", untitled, content);
-    const qint64 keeping = timeOfKeeping.milliseconds();
-    const ProcessorTime timeOfPacking;
-    QVERIFY(!packGzipMember(content.head).isEmpty());
-    const qint64 packing = timeOfPacking.milliseconds();
-    QVERIFY2(keeping < packing / 2, qPrintable(QString("%1, %2 ms").arg(keeping).arg(packing)));
-}
-
-void RecoveryCopiesTest::largeCopyIsWrittenWhateverBecomesOfTheEditor_data()
-{
-    QTest::addColumn<QByteArray>("head");
-    QTest::addColumn<QByteArray>("piece");
-    QTest::newRow("large pieces") << QByteArray() << large('x');
-    QTest::newRow("a head to be packed") << largeHead() << QByteArray("small");
-}
-
-// It dies as soon as it may go on.
-void RecoveryCopiesTest::largeCopyIsWrittenWhateverBecomesOfTheEditor()
-{
-    QFETCH(QByteArray, head);
-    QFETCH(QByteArray, piece);
-    const QByteArray bytes = (head.isEmpty() ? QByteArray() : packGzipMember(head)) + piece;
-    const pid_t editor = fork();
-    if (editor == 0) {
-        RecoveryCopies copies(folder);
-        copies.keep("harbour", untitled, {head, {piece}});
-        raise(SIGKILL);
-        _exit(1);
-    }
-    int status = 0;
-    QCOMPARE(waitpid(editor, &status, 0), editor);
-    QVERIFY(WIFSIGNALED(status));
-    const RecoveryCopies copies(folder);
-    QTRY_VERIFY_WITH_TIMEOUT(copies.newestToOffer(), 60000);
-    QCOMPARE(files().size(), 1);
-    QVERIFY(contents(path(files()[0])) == bytes);
-}
-
-void RecoveryCopiesTest::laterCopyComesLastHoweverLarge_data()
-{
-    QTest::addColumn<QByteArray>("first");
-    QTest::addColumn<QByteArray>("second");
-    QTest::newRow("a larger one") << QByteArray("small") << large('x');
-    QTest::newRow("a smaller one") << large('x') << QByteArray("small");
-    QTest::newRow("one as large") << large('x') << large('y');
-}
-
-void RecoveryCopiesTest::laterCopyComesLastHoweverLarge()
-{
-    QFETCH(QByteArray, first);
-    QFETCH(QByteArray, second);
-    RecoveryCopies copies(folder);
-    copies.keep("harbour", untitled, {{}, {first}});
-    copies.keep("harbour", untitled, {{}, {second}});
-    copies.leave();
-    QCOMPARE(files().size(), 1);
-    QVERIFY(contents(path(files()[0])) == second);
-}
-
-void RecoveryCopiesTest::removedLargeCopyDoesNotComeBack()
-{
-    RecoveryCopies copies(folder);
-    copies.keep("harbour", {home->filePath("harbour.e3c"), {}}, {{}, {large('x')}});
-    copies.remove();
-    QCOMPARE(files(), QStringList());
-}
-
-void RecoveryCopiesTest::failedLargeCopyKeepsTheOldOne()
-{
-    RecoveryCopies copies(folder);
-    copies.keep("harbour", untitled, {{}, {"short"}});
-    const QStringList before = files();
-    {
-        const FileSizeLimit limit(1024UL * 1024);
-        copies.keep("harbour", untitled, {{}, {large('x')}});
-        copies.keep("harbour", untitled, {{}, {large('x')}}); // when the first of them has failed
-        QVERIFY(!RecoveryCopies(folder).newestToOffer());
-    }
-    copies.leave();
-    QCOMPARE(files(), before);
-    QCOMPARE(contents(path(before[0])), QByteArray("short"));
-    QVERIFY(copies.newestToOffer());
-}
-
-void RecoveryCopiesTest::failedFirstLargeCopyLeavesNothing()
-{
-    RecoveryCopies copies(folder);
-    const FileSizeLimit limit(1024UL * 1024);
-    copies.keep("harbour", {home->filePath("harbour.e3c"), {}}, {{}, {large('x')}});
-    copies.leave();
-    QCOMPARE(files(), QStringList());
-}
-
-// Neither the old one nor the new one.
-void RecoveryCopiesTest::nobodyIsOfferedACopyThatIsBeingWritten()
-{
-    RecoveryCopies copies(folder);
-    copies.keep("harbour", untitled, {{}, {"short"}});
-    copies.keep("harbour", untitled, {{}, {large('x')}});
-    QVERIFY(!RecoveryCopies(folder).newestToOffer());
-    QTRY_COMPARE_WITH_TIMEOUT(QFileInfo(path(files()[0])).size(), qint64(large('x').size()), 60000);
-    QVERIFY(!RecoveryCopies(folder).newestToOffer());
 }
 
 void RecoveryCopiesTest::placeThatCantBeWrittenIsNoTrouble()
