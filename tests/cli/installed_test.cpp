@@ -2,6 +2,7 @@
 // themselves, wherever they are called from.
 #include "tests/support/child_process.h"
 #include "tests/support/file_contents.h"
+#include "tests/support/longest_wait.h"
 
 #include <QDir>
 #include <QFile>
@@ -107,7 +108,7 @@ void InstalledTest::editorFindsTheGameBesideItself()
     editor.setWorkingDirectory(m_elsewhere.path());
     editor.start(path(QStringLiteral("cmped")), {path(QStringLiteral("Maps/sample.e3c"))});
     QVERIFY(editor.waitForStarted());
-    QTRY_VERIFY_WITH_TIMEOUT(catches(editor.processId(), SIGTERM), 30000);
+    QTRY_VERIFY_WITH_TIMEOUT(catches(editor.processId(), SIGTERM), longestWait);
     const QByteArray mapped = contents(QStringLiteral("/proc/%1/maps").arg(editor.processId()));
     QVERIFY(mapped.contains(QFile::encodeName(path(QStringLiteral("libcmped.so")))));
     editor.terminate();

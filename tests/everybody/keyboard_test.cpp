@@ -4,6 +4,7 @@
 #include "tests/everybody/open_windows.h"
 #include "tests/everybody/window_walk.h"
 
+#include "tests/support/longest_wait.h"
 #include "tests/support/widgets.h"
 
 #include <QAbstractButton>
@@ -28,7 +29,7 @@ constexpr int slack = 4; // pixels by which neighbours may be out of line
 void activate(QWidget *window)
 {
     window->activateWindow();
-    if (!QTest::qWaitForWindowActive(window, 30000))
+    if (!QTest::qWaitForWindowActive(window, longestWait))
         QTest::qFail("The window never became active.", __FILE__, __LINE__);
 }
 
@@ -267,7 +268,7 @@ void KeyboardTest::keysReachEveryCommand()
         press(window, Qt::Key_Right);
     press(window, Qt::Key_Down);
     QMenu *open = bar->actions().at(menu)->menu();
-    QTRY_VERIFY_WITH_TIMEOUT(open->isVisible(), 30000);
+    QTRY_VERIFY_WITH_TIMEOUT(open->isVisible(), longestWait);
     for (int i = 0; i < open->actions().size() && open->activeAction() != action; ++i)
         press(window, Qt::Key_Down);
     QCOMPARE(open->activeAction(), action);

@@ -1,6 +1,7 @@
 // The regions of the campaign map without a mouse.
 #include "scenario/scenario_info.h"
 #include "tests/shell/window_fixture.h"
+#include "tests/support/longest_wait.h"
 
 #include <QAccessible>
 #include <QGraphicsView>
@@ -160,7 +161,7 @@ void MapKeysTest::chosenRegionComesIntoView()
         return view->viewport()->rect().contains(
             QRect(view->mapFromScene(place.topLeft()), place.size()));
     };
-    QTRY_VERIFY_WITH_TIMEOUT(!isInView(cedarFen), 30000);
+    QTRY_VERIFY_WITH_TIMEOUT(!isInView(cedarFen), longestWait);
     open.press(Qt::Key_End);
     QVERIFY(isInView(cedarFen));
 }

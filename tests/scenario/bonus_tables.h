@@ -5,6 +5,7 @@
 #include "document/campaign_data.h"
 #include "document/start_options.h"
 #include "gamedata/editor_data.h"
+#include "tests/support/longest_wait.h"
 #include "tests/support/widgets.h"
 
 #include <QApplication>
@@ -91,10 +92,10 @@ inline void choose(QComboBox *box, const QString &text)
     const int row = box->findText(text);
     QVERIFY2(row >= 0, qPrintable(text));
     clickOn(box);
-    QTRY_VERIFY(box->view()->isVisible());
+    QTRY_VERIFY_WITH_TIMEOUT(box->view()->isVisible(), longestWait);
     clickOnRow(box, row);
-    QTRY_COMPARE(box->currentText(), text);
-    QTRY_VERIFY(!box->view()->isVisible());
+    QTRY_COMPARE_WITH_TIMEOUT(box->currentText(), text, longestWait);
+    QTRY_VERIFY_WITH_TIMEOUT(!box->view()->isVisible(), longestWait);
 }
 
 // A list takes clicks only when a double click's time has passed since its box was clicked.

@@ -3,6 +3,7 @@
 
 #include "tests/scenario/crossover_campaign.h"
 #include "tests/scenario/shown_page.h"
+#include "tests/support/longest_wait.h"
 
 #include <QHelpEvent>
 #include <QLabel>
@@ -225,7 +226,7 @@ void HeroCrossoverDialogTest::longNamesHaveRoom()
     QVERIFY(text.startsWith("0. W. W. Wormwood"));
     QVERIFY(roomIn(sources()) > sources()->fontMetrics().horizontalAdvance(text));
     askForToolTip(sources(), sources()->rect().center());
-    QTRY_COMPARE(QToolTip::text(), QString());
+    QTRY_COMPARE_WITH_TIMEOUT(QToolTip::text(), QString(), longestWait);
 }
 
 // Without the places where an endless word may break.
@@ -244,10 +245,10 @@ void HeroCrossoverDialogTest::endlessNamesAreToldWhole()
     QCOMPARE(shownToolTip(), whole);
     sources()->setCurrentIndex(1);
     askForToolTip(sources(), sources()->rect().center());
-    QTRY_COMPARE(QToolTip::text(), QString());
+    QTRY_COMPARE_WITH_TIMEOUT(QToolTip::text(), QString(), longestWait);
     clickOn(sources());
     QAbstractItemView *list = sources()->view();
-    QTRY_VERIFY(list->isVisible());
+    QTRY_VERIFY_WITH_TIMEOUT(list->isVisible(), longestWait);
     const auto placeOf = [&](int row) {
         const QRect place = list->visualRect(sources()->model()->index(row, 0));
         return place.intersected(list->viewport()->rect()).center();
@@ -255,7 +256,7 @@ void HeroCrossoverDialogTest::endlessNamesAreToldWhole()
     askForToolTip(list->viewport(), placeOf(0));
     QCOMPARE(shownToolTip(), whole);
     askForToolTip(list->viewport(), placeOf(1));
-    QTRY_COMPARE(QToolTip::text(), QString());
+    QTRY_COMPARE_WITH_TIMEOUT(QToolTip::text(), QString(), longestWait);
     sources()->hidePopup();
 }
 

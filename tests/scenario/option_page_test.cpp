@@ -3,6 +3,7 @@
 #include "scenario/starting_hero_options.h"
 #include "tests/scenario/hero_map.h"
 #include "tests/scenario/shown_page.h"
+#include "tests/support/longest_wait.h"
 
 #include <QtTest>
 
@@ -110,7 +111,7 @@ void OptionPageTest::aButtonIsUpAfterItsDialog()
 {
     onBoth([](auto &shown) {
         shown.page.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&shown.page));
+        QVERIFY(QTest::qWaitForWindowActive(&shown.page, longestWait));
         const NextDialog dialog(choose({}, QDialogButtonBox::Cancel));
         pressDown(shown, "addButton");
         QVERIFY(!shown.button("addButton")->isDown());
@@ -121,7 +122,7 @@ void OptionPageTest::theKeyboardWorksTheButtons()
 {
     onBoth([](auto &shown) {
         shown.page.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&shown.page));
+        QVERIFY(QTest::qWaitForWindowActive(&shown.page, longestWait));
         shown.button("addButton")->setFocus();
         const NextDialog dialog(choose({}));
         QTest::keyPress(shown.page.windowHandle(), Qt::Key_Space);
@@ -135,7 +136,7 @@ void OptionPageTest::theTabKeyLeadsFromTheRowsToTheButtons()
 {
     onBoth([](auto &shown) {
         shown.page.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&shown.page));
+        QVERIFY(QTest::qWaitForWindowActive(&shown.page, longestWait));
         shown.clickRow(0);
         QCOMPARE(shown.page.focusWidget(), shown.table());
         for (const char *name : {"addButton", "editButton", "removeButton", "tableWidget"}) {
@@ -283,7 +284,7 @@ void OptionPageTest::columnsFollowTheWidth()
     onBoth([](auto &shown) {
         const int before = shown.table()->columnWidth(0);
         shown.page.resize(880, 280);
-        QTRY_VERIFY(shown.table()->columnWidth(0) >= 2 * before);
+        QTRY_VERIFY_WITH_TIMEOUT(shown.table()->columnWidth(0) >= 2 * before, longestWait);
         const int both = shown.table()->columnWidth(0) + shown.table()->columnWidth(1);
         QCOMPARE(both, shown.table()->viewport()->width());
     });

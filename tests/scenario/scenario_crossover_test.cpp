@@ -1,5 +1,6 @@
 // The crossover tab: what its lists offer, what it shows, and when it can be edited.
 #include "tests/scenario/crossover_tab.h"
+#include "tests/support/longest_wait.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -330,7 +331,7 @@ void ScenarioCrossoverTest::theTabKeyGoesFromTopToBottom()
     CrossoverTab open;
     open.tab.initInfo(&scenario);
     open.tab.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&open.tab));
+    QVERIFY(QTest::qWaitForWindowActive(&open.tab, longestWait));
     open.find<QWidget>("experienceComboBox")->setFocus();
     for (const char *name :
          {"primarySkillsCombobox", "secSkillsCombobox", "spellsCombobox", "artifactsCombobox",

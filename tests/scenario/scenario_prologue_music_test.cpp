@@ -3,6 +3,7 @@
 #include "shell/mss_info.h"
 #include "tests/scenario/stories_tab.h"
 #include "tests/support/heard_sound.h"
+#include "tests/support/longest_wait.h"
 #include "tests/support/tunes.h"
 
 #include <QDir>
@@ -68,7 +69,7 @@ void ScenarioPrologueMusicTest::init()
 {
     m_fixture->reset();
     mss = &m_player;
-    QTRY_VERIFY(m_sound->endsSilent(silence));
+    QTRY_VERIFY_WITH_TIMEOUT(m_sound->endsSilent(silence), longestWait);
     m_sound->clear();
 }
 
@@ -157,10 +158,10 @@ void ScenarioPrologueMusicTest::leavingTheTabPauses()
     CampaignData campaign = storyCampaign(3);
     StoriesTab open(campaign, tab);
     clickOn(open.find<QPushButton>("playMusicBtn"));
-    QTRY_VERIFY(!m_sound->sound().isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(!m_sound->sound().isEmpty(), longestWait);
     open.showTab(generalTab);
     QVERIFY(showsIcon(open, QStyle::SP_MediaPlay));
-    QTRY_VERIFY(m_sound->endsSilent(silence));
+    QTRY_VERIFY_WITH_TIMEOUT(m_sound->endsSilent(silence), longestWait);
 }
 
 // Whether anything plays or not.
@@ -226,10 +227,10 @@ void ScenarioPrologueMusicTest::playsUntilPaused()
     CampaignData campaign = storyCampaign(3);
     StoriesTab open(campaign, tab);
     clickOn(open.find<QPushButton>("playMusicBtn"));
-    QTRY_VERIFY(!m_sound->sound().isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(!m_sound->sound().isEmpty(), longestWait);
     QCOMPARE(m_sound->sound().first().right, markOfTwo);
     clickOn(open.find<QPushButton>("playMusicBtn"));
-    QTRY_VERIFY(m_sound->endsSilent(silence));
+    QTRY_VERIFY_WITH_TIMEOUT(m_sound->endsSilent(silence), longestWait);
     QVERIFY(m_player.stream != 0);
 }
 
@@ -238,7 +239,7 @@ void ScenarioPrologueMusicTest::playsForEver()
     CampaignData campaign = storyCampaign(3);
     StoriesTab open(campaign, prologueTab);
     clickOn(open.find<QPushButton>("playMusicBtn"));
-    QTRY_VERIFY(m_sound->sound().size() > 5 * tuneFrames);
+    QTRY_VERIFY_WITH_TIMEOUT(m_sound->sound().size() > 5 * tuneFrames, longestWait);
 }
 
 void ScenarioPrologueMusicTest::pausesWhenSomethingElseComes_data()
@@ -254,7 +255,7 @@ void ScenarioPrologueMusicTest::pausesWhenSomethingElseComes()
     CampaignData campaign = storyCampaign(3);
     StoriesTab open(campaign, prologueTab);
     clickOn(open.find<QPushButton>("playMusicBtn"));
-    QTRY_VERIFY(!m_sound->sound().isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(!m_sound->sound().isEmpty(), longestWait);
     if (what == "another tab")
         open.showTab(epilogueTab);
     else if (what == "another scenario")
@@ -264,7 +265,7 @@ void ScenarioPrologueMusicTest::pausesWhenSomethingElseComes()
     else
         open.clickBox(open.hasStory());
     QVERIFY(showsIcon(open, QStyle::SP_MediaPlay));
-    QTRY_VERIFY(m_sound->endsSilent(silence));
+    QTRY_VERIFY_WITH_TIMEOUT(m_sound->endsSilent(silence), longestWait);
 }
 
 void ScenarioPrologueMusicTest::endOfThePageStopsTheMusic()

@@ -2,6 +2,7 @@
 #include "scenario/starting_bonus.h"
 
 #include "tests/scenario/bonus_page.h"
+#include "tests/support/longest_wait.h"
 #include "tests/support/report_recorder.h"
 
 #include <QHeaderView>
@@ -321,7 +322,7 @@ void StartingBonusTest::aTextThatIsCutIsToldWhole()
     QVERIFY(whole.startsWith("<qt>Give Ember spell to &lt;b&gt;Gorim&lt;/b&gt; mmm"));
     QVERIFY(whole.endsWith("mmm (in town)</qt>"));
     pointAt(0); // which is not cut
-    QTRY_VERIFY(!QToolTip::isVisible());
+    QTRY_VERIFY_WITH_TIMEOUT(!QToolTip::isVisible(), longestWait);
     QVERIFY(!test.table()->wordWrap());
 }
 

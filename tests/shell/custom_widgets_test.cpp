@@ -2,6 +2,7 @@
 #include "shell/custom_widgets.h"
 #include "shell/dialog_look.h"
 #include "shell/right_click_filter.h"
+#include "tests/support/longest_wait.h"
 #include "tests/support/message_boxes.h"
 
 #include <QApplication>
@@ -53,7 +54,7 @@ void CustomWidgetsTest::rightClickLeavesTheSelection()
     OpenList list(nullptr);
     fill(list);
     list.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&list));
+    QVERIFY(QTest::qWaitForWindowExposed(&list, longestWait));
     const auto click = [&](int row, Qt::MouseButton button) {
         clickOn(list.viewport(), list.visualItemRect(list.item(row)).center(), button);
     };
@@ -87,7 +88,7 @@ void CustomWidgetsTest::leftDoubleClickActivates()
     OpenList list(nullptr);
     fill(list);
     list.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&list));
+    QVERIFY(QTest::qWaitForWindowExposed(&list, longestWait));
     bool activated = false;
     connect(&list, &QListWidget::itemDoubleClicked, this, [&] { activated = true; });
     const QPoint place = list.visualItemRect(list.item(1)).center();

@@ -4,6 +4,7 @@
 #include "shell/mss_info.h"
 #include "tests/shell/campaign_dialog_support.h"
 #include "tests/support/heard_sound.h"
+#include "tests/support/longest_wait.h"
 #include "tests/support/tunes.h"
 
 #include <algorithm>
@@ -70,7 +71,7 @@ void EditCampaignMusicTest::init()
     mss = &sound;
     campaign = campaignOnBackground(0, "m");
     campaign.musicId = 0;
-    QTRY_VERIFY(heard.endsSilent(silence));
+    QTRY_VERIFY_WITH_TIMEOUT(heard.endsSilent(silence), longestWait);
     heard.clear();
 }
 
@@ -102,17 +103,17 @@ void EditCampaignMusicTest::buttonPlaysForEverAndPauses()
     expect("MSS - START MUSIC STRIC");
     clickOn(button(dialog));
     compareIcon(dialog, QStyle::SP_MediaPause);
-    QTRY_VERIFY(heard.sound().size() > 5 * tuneFrames);
+    QTRY_VERIFY_WITH_TIMEOUT(heard.sound().size() > 5 * tuneFrames, longestWait);
     QVERIFY(hears(firstMark));
     expect("MSS - PAUSE MUSIC");
     clickOn(button(dialog));
     compareIcon(dialog, QStyle::SP_MediaPlay);
-    QTRY_VERIFY(heard.endsSilent(silence));
+    QTRY_VERIFY_WITH_TIMEOUT(heard.endsSilent(silence), longestWait);
     QVERIFY(sound.stream != 0);
     heard.clear();
     expect("MSS - START MUSIC STRIC");
     clickOn(button(dialog));
-    QTRY_VERIFY(hears(firstMark));
+    QTRY_VERIFY_WITH_TIMEOUT(hears(firstMark), longestWait);
 }
 
 void EditCampaignMusicTest::anotherChoiceStopsTheMusic()
@@ -120,16 +121,16 @@ void EditCampaignMusicTest::anotherChoiceStopsTheMusic()
     EditCampaign dialog(nullptr, &campaign);
     QVERIFY(show(dialog));
     clickOn(button(dialog));
-    QTRY_VERIFY(hears(firstMark));
+    QTRY_VERIFY_WITH_TIMEOUT(hears(firstMark), longestWait);
     expect("MSS - PAUSE MUSIC");
     control<QComboBox>(dialog, "musicCombobox")->setCurrentIndex(1);
     compareIcon(dialog, QStyle::SP_MediaPlay);
-    QTRY_VERIFY(heard.endsSilent(silence));
+    QTRY_VERIFY_WITH_TIMEOUT(heard.endsSilent(silence), longestWait);
     heard.clear();
     expect("MSS - START MUSIC STRIC");
     clickOn(button(dialog));
     compareIcon(dialog, QStyle::SP_MediaPause);
-    QTRY_VERIFY(hears(secondMark));
+    QTRY_VERIFY_WITH_TIMEOUT(hears(secondMark), longestWait);
     QVERIFY(!hears(firstMark));
 }
 
@@ -142,7 +143,7 @@ void EditCampaignMusicTest::anotherChoiceInSilenceLeavesTheButton()
     compareIcon(dialog, QStyle::SP_MediaPlay);
     expect("MSS - START MUSIC STRIC");
     clickOn(button(dialog));
-    QTRY_VERIFY(hears(secondMark));
+    QTRY_VERIFY_WITH_TIMEOUT(hears(secondMark), longestWait);
 }
 
 void EditCampaignMusicTest::closingStopsTheMusic()
@@ -151,11 +152,11 @@ void EditCampaignMusicTest::closingStopsTheMusic()
         EditCampaign dialog(nullptr, &campaign);
         QVERIFY(show(dialog));
         clickOn(button(dialog));
-        QTRY_VERIFY(hears(firstMark));
+        QTRY_VERIFY_WITH_TIMEOUT(hears(firstMark), longestWait);
         expect("MSS - STOP MUSIC STREAM");
     }
     QCOMPARE(sound.stream, 0U);
-    QTRY_VERIFY(heard.endsSilent(silence));
+    QTRY_VERIFY_WITH_TIMEOUT(heard.endsSilent(silence), longestWait);
 }
 
 void EditCampaignMusicTest::closingInSilenceTellsNothing()

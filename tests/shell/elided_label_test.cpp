@@ -1,5 +1,6 @@
 // The label that cuts its text: what it draws, what it tells, and the room it asks for.
 #include "shell/elided_label.h"
+#include "tests/support/longest_wait.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -100,7 +101,7 @@ void ElidedLabelTest::toolTipTellsACutTextWhole()
     label.setText(text);
     label.resize(90, label.sizeHint().height());
     label.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&label));
+    QVERIFY(QTest::qWaitForWindowExposed(&label, longestWait));
     QCOMPARE(toolTipOf(label), "<qt>" + escaped + "</qt>");
 }
 
@@ -110,7 +111,7 @@ void ElidedLabelTest::wholeTextsHaveNoToolTip()
     label.setText(longText);
     label.resize(label.sizeHint());
     label.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&label));
+    QVERIFY(QTest::qWaitForWindowExposed(&label, longestWait));
     QCOMPARE(toolTipOf(label), QString());
 }
 
@@ -138,7 +139,7 @@ void ElidedLabelTest::longTextsDoNotWidenTheWindow()
     layout->addWidget(label);
     window.resize(200, 50);
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(QTest::qWaitForWindowExposed(&window, longestWait));
     label->setText(longText.repeated(10));
     layout->activate();
     QCOMPARE(window.width(), 200);

@@ -3,6 +3,7 @@
 #include "shell/editor_resources.h"
 #include "shell/fusion_style_tweaks.h"
 #include "shell/style.h"
+#include "tests/support/longest_wait.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -224,7 +225,7 @@ void FusionStyleTweaksTest::comboBoxOpensUnderItsField()
     combo.setCurrentIndex(2);
     combo.move(50, 200);
     combo.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&combo));
+    QVERIFY(QTest::qWaitForWindowExposed(&combo, longestWait));
     combo.showPopup();
     QVERIFY(combo.view()->isVisible());
     QVERIFY(combo.view()->mapToGlobal(QPoint()).y() >= combo.mapToGlobal({0, combo.height()}).y());

@@ -2,6 +2,7 @@
 #include "launcher/game_dialog.h"
 #include "tests/support/child_process.h"
 #include "tests/support/file_dialogs.h"
+#include "tests/support/longest_wait.h"
 #include "tests/support/tiny_game.h"
 
 #include <QDir>
@@ -61,7 +62,7 @@ void GameDialogTest::saysWhatItLooksFor()
     QCOMPARE(questionOf(dialog), wanted);
     QCOMPARE(dialog.directory().path(), m_dir->path());
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog, longestWait));
     const auto *text = dialog.findChild<QLabel *>("question");
     QVERIFY(text->isVisible());
     QVERIFY(text->height() >= text->heightForWidth(text->width()));

@@ -1,6 +1,7 @@
 // The launcher: its own options, and what the library it starts shows to the outside.
 #include "launcher/launcher_options.h"
 #include "tests/support/child_process.h"
+#include "tests/support/longest_wait.h"
 #include "tests/support/tiny_game.h"
 
 #include <QDir>
@@ -81,7 +82,7 @@ int startAndEnd(QProcess &editor, const QStringList &arguments)
 {
     editor.start(builtProgram("cmped"), arguments);
     if (!editor.waitForStarted() ||
-        !QTest::qWaitFor([&] { return catches(editor.processId(), SIGTERM); }, 30000))
+        !QTest::qWaitFor([&] { return catches(editor.processId(), SIGTERM); }, longestWait))
         return -1;
     editor.terminate();
     return editor.waitForFinished() && editor.exitStatus() == QProcess::NormalExit
@@ -268,7 +269,7 @@ void LauncherTest::startsTheEditorAndEndsOnSigterm()
     editor.setProcessEnvironment(editorEnvironment(game, settings));
     editor.start(builtProgram("cmped"), {"--encoding", "windows-1251"});
     QVERIFY(editor.waitForStarted());
-    QTRY_VERIFY_WITH_TIMEOUT(catches(editor.processId(), SIGTERM), 30000);
+    QTRY_VERIFY_WITH_TIMEOUT(catches(editor.processId(), SIGTERM), longestWait);
     editor.terminate();
     QVERIFY(editor.waitForFinished());
     QCOMPARE(editor.exitStatus(), QProcess::NormalExit);
@@ -290,7 +291,7 @@ void LauncherTest::ignoredSignalsStayIgnored()
     const bool started = editor.waitForStarted();
     std::signal(SIGHUP, before);
     QVERIFY(started);
-    QTRY_VERIFY_WITH_TIMEOUT(catches(editor.processId(), SIGTERM), 30000);
+    QTRY_VERIFY_WITH_TIMEOUT(catches(editor.processId(), SIGTERM), longestWait);
     QVERIFY(!catches(editor.processId(), SIGHUP));
     editor.terminate();
     QVERIFY(editor.waitForFinished());

@@ -1,6 +1,7 @@
 // Into the scenario dialog and out of it more than once, by keys and by the title bar.
 #include "scenario/scenario_info.h"
 #include "tests/shell/window_fixture.h"
+#include "tests/support/longest_wait.h"
 
 #include <QListWidget>
 #include <QSignalSpy>
@@ -34,7 +35,7 @@ using Work = std::function<void(ScenarioInfo &)>;
 void byReturn(MainWindow &window, const Work &work)
 {
     window.activateWindow(); // no desktop does it here when a dialog goes
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(QTest::qWaitForWindowActive(&window, longestWait));
     NextDialog next([&](QWidget *widget) {
         auto *dialog = qobject_cast<ScenarioInfo *>(widget);
         if (!dialog) {

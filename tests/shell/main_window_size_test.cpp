@@ -1,5 +1,6 @@
 // The window's size, and what of the map is seen in it.
 #include "tests/shell/window_fixture.h"
+#include "tests/support/longest_wait.h"
 
 #include <QLayout>
 
@@ -67,13 +68,13 @@ void MainWindowSizeTest::smallerWindowGetsScrollBars()
     QVERIFY(show(window));
     const QSize first = window.size();
     window.resize(first + change);
-    QTRY_COMPARE(mapView(window)->size(), view);
+    QTRY_COMPARE_WITH_TIMEOUT(mapView(window)->size(), view, longestWait);
     QCOMPARE(mapView(window)->parentWidget()->size(), view);
     const auto policy = bars ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff;
     QCOMPARE(mapView(window)->horizontalScrollBarPolicy(), policy);
     QCOMPARE(mapView(window)->verticalScrollBarPolicy(), policy);
     window.resize(first);
-    QTRY_COMPARE(mapView(window)->size(), QSize(456, 600));
+    QTRY_COMPARE_WITH_TIMEOUT(mapView(window)->size(), QSize(456, 600), longestWait);
     QCOMPARE(mapView(window)->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
 }
 
@@ -82,7 +83,7 @@ void MainWindowSizeTest::largerWindowKeepsTheViewAtThePicture()
     MainWindow window(nullptr);
     QVERIFY(show(window));
     window.resize(900, 900);
-    QTRY_COMPARE(mapView(window)->size(), QSize(456, 600));
+    QTRY_COMPARE_WITH_TIMEOUT(mapView(window)->size(), QSize(456, 600), longestWait);
     // A new layout must not stretch the page either.
     window.centralWidget()->layout()->invalidate();
     window.centralWidget()->layout()->activate();
@@ -118,9 +119,9 @@ void MainWindowSizeTest::leavingAStateRestoresTheFirstSize()
     const QSize first = window.size();
     window.resize(600, 700);
     window.setWindowState(Qt::WindowState(state));
-    QTRY_VERIFY(window.windowState() & Qt::WindowState(state));
+    QTRY_VERIFY_WITH_TIMEOUT(window.windowState() & Qt::WindowState(state), longestWait);
     window.setWindowState(Qt::WindowNoState);
-    QTRY_COMPARE(window.size(), first);
+    QTRY_COMPARE_WITH_TIMEOUT(window.size(), first, longestWait);
 }
 
 void MainWindowSizeTest::longHintsDoNotWidenTheWindow()
@@ -148,7 +149,7 @@ void MainWindowSizeTest::statusTextsShareTheRoom()
     const QLabel *region = statusLabel(window, 1);
     const int between = region->x() - hint->x() - hint->width();
     window.resize(window.width() + 400, window.height());
-    QTRY_VERIFY(hint->width() + region->width() > 700);
+    QTRY_VERIFY_WITH_TIMEOUT(hint->width() + region->width() > 700, longestWait);
     QVERIFY(qAbs(hint->width() - region->width()) <= 1);
     QCOMPARE(region->x() - hint->x() - hint->width(), between);
 }

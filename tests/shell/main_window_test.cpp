@@ -1,6 +1,7 @@
 // The window itself: its form, menus, hints and the dialog about the program.
 #include "shell/editor_resources.h"
 #include "tests/shell/window_fixture.h"
+#include "tests/support/longest_wait.h"
 
 #include <algorithm>
 
@@ -333,7 +334,7 @@ void MainWindowTest::keysOpenTheProperties()
     QFETCH(QString, name);
     MainWindow window(nullptr);
     window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(QTest::qWaitForWindowActive(&window, longestWait));
     QStringList opened;
     for (const char *command : {"scenarioProperties", "campaignProperties"}) {
         connect(action(window, command), &QAction::triggered, &window,

@@ -1,5 +1,6 @@
 // The ways from the map on the screen into the scenario dialog.
 #include "tests/shell/window_fixture.h"
+#include "tests/support/longest_wait.h"
 
 #include <QContextMenuEvent>
 #include <QListWidget>
@@ -107,7 +108,7 @@ void MapViewOpeningTest::contextMenuOffersProperties()
     });
     QContextMenuEvent event(QContextMenuEvent::Mouse, place);
     QApplication::sendEvent(mapView(window)->viewport(), &event);
-    QTRY_COMPARE(texts, QStringList("Properties..."));
+    QTRY_COMPARE_WITH_TIMEOUT(texts, QStringList("Properties..."), longestWait);
     QCOMPARE(shownAt, mapView(window)->viewport()->mapToGlobal(place));
     QVERIFY(properties.came());
 }
@@ -129,7 +130,7 @@ void MapViewOpeningTest::campaignWithoutMapOpensItsFirstScenario()
         "chain.e3c", tiny::campaignWithoutMap(1, QVector<tiny::Scenario>(3))));
     QVERIFY(show(window));
     window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(QTest::qWaitForWindowActive(&window, longestWait));
     const QPoint place = mapView(window)->viewport()->mapTo(&window, QPoint(210, 310));
     QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, place);
     QCOMPARE(EditorData::info.region, 0U);

@@ -2,6 +2,7 @@
 #include "document/campaign_data.h"
 #include "gamedata/image_cache.h"
 #include "tests/shell/window_fixture.h"
+#include "tests/support/longest_wait.h"
 #include "tests/support/report_recorder.h"
 
 #include <QScrollBar>
@@ -347,7 +348,7 @@ void MapViewTest::wheelNeverScrolls()
     MainWindow window(nullptr);
     QVERIFY(show(window));
     window.resize(window.width() - 100, window.height() - 200);
-    QTRY_VERIFY(mapView(window)->verticalScrollBar()->maximum() > 0);
+    QTRY_VERIFY_WITH_TIMEOUT(mapView(window)->verticalScrollBar()->maximum() > 0, longestWait);
     QWheelEvent event(QPointF(50, 50), QPointF(50, 50), QPoint(), QPoint(0, -240), Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(mapView(window)->viewport(), &event);

@@ -3,6 +3,7 @@
 #include "shell/mss_info.h"
 #include "tests/support/child_process.h"
 #include "tests/support/heard_sound.h"
+#include "tests/support/longest_wait.h"
 #include "tests/support/report_recorder.h"
 #include "tests/support/tunes.h"
 
@@ -123,7 +124,7 @@ void MssInfoTest::cleanup()
     m_music.StopMusic();
     QCOMPARE(m_music.stream, 0U);
     m_heard.clear();
-    QTRY_VERIFY(m_heard.endsSilent(silence));
+    QTRY_VERIFY_WITH_TIMEOUT(m_heard.endsSilent(silence), longestWait);
     QVERIFY(m_reports.errors.isEmpty());
 }
 
@@ -147,16 +148,16 @@ void MssInfoTest::playsATuneFromItsBeginningToItsEnd()
 {
     m_music.StartMusicStream("short.wav", 1);
     QVERIFY(m_music.stream != 0);
-    QTRY_COMPARE(m_heard.sound().size(), shortFrames);
-    QTRY_VERIFY(m_heard.endsSilent(silence));
+    QTRY_COMPARE_WITH_TIMEOUT(m_heard.sound().size(), shortFrames, longestWait);
+    QTRY_VERIFY_WITH_TIMEOUT(m_heard.endsSilent(silence), longestWait);
     QCOMPARE(m_heard.sound(), part(firstMark, 1, shortFrames));
 }
 
 void MssInfoTest::playsATuneSoManyTimes()
 {
     m_music.StartMusicStream("short.wav", 3);
-    QTRY_COMPARE(m_heard.sound().size(), 3 * shortFrames);
-    QTRY_VERIFY(m_heard.endsSilent(silence));
+    QTRY_COMPARE_WITH_TIMEOUT(m_heard.sound().size(), 3 * shortFrames, longestWait);
+    QTRY_VERIFY_WITH_TIMEOUT(m_heard.endsSilent(silence), longestWait);
     const QVector<HeardFrame> once = part(firstMark, 1, shortFrames);
     QCOMPARE(m_heard.sound(), once + once + once);
 }
@@ -165,7 +166,7 @@ void MssInfoTest::playsForEverWithCountZero()
 {
     constexpr int rounds = 20;
     m_music.StartMusicStream("short.wav", forEver);
-    QTRY_VERIFY(m_heard.sound().size() > rounds * shortFrames);
+    QTRY_VERIFY_WITH_TIMEOUT(m_heard.sound().size() > rounds * shortFrames, longestWait);
     QCOMPARE(m_heard.sound().mid(0, rounds * shortFrames),
              rounded(firstMark, shortFrames, 0, rounds * shortFrames));
 }
@@ -173,16 +174,16 @@ void MssInfoTest::playsForEverWithCountZero()
 void MssInfoTest::pausedMusicIsSilentAndGoesOnWhereItWas()
 {
     m_music.StartMusicStream("first.wav", forEver);
-    QTRY_VERIFY(!m_heard.sound().isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(!m_heard.sound().isEmpty(), longestWait);
     m_music.PauseMusic();
     QVERIFY(m_music.stream != 0);
-    QTRY_VERIFY(m_heard.endsSilent(silence));
+    QTRY_VERIFY_WITH_TIMEOUT(m_heard.endsSilent(silence), longestWait);
     const QVector<HeardFrame> before = m_heard.sound();
     QCOMPARE(before, rounded(firstMark, longFrames, 0, before.size()));
 
     m_heard.clear();
     m_music.ResumeMusic();
-    QTRY_VERIFY(m_heard.sound().size() > longFrames);
+    QTRY_VERIFY_WITH_TIMEOUT(m_heard.sound().size() > longFrames, longestWait);
     QCOMPARE(m_heard.sound().mid(0, longFrames),
              rounded(firstMark, longFrames, before.size(), longFrames));
 }
@@ -190,13 +191,13 @@ void MssInfoTest::pausedMusicIsSilentAndGoesOnWhereItWas()
 void MssInfoTest::stoppedMusicIsSilentForGood()
 {
     m_music.StartMusicStream("first.wav", forEver);
-    QTRY_VERIFY(!m_heard.sound().isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(!m_heard.sound().isEmpty(), longestWait);
     m_music.StopMusic();
     QCOMPARE(m_music.stream, 0U);
-    QTRY_VERIFY(m_heard.endsSilent(silence));
+    QTRY_VERIFY_WITH_TIMEOUT(m_heard.endsSilent(silence), longestWait);
     m_heard.clear();
     m_music.ResumeMusic();
-    QTRY_VERIFY(m_heard.endsSilent(silence));
+    QTRY_VERIFY_WITH_TIMEOUT(m_heard.endsSilent(silence), longestWait);
     QVERIFY(m_heard.sound().isEmpty());
 }
 
@@ -204,12 +205,12 @@ void MssInfoTest::secondStartReplacesTheFirst()
 {
     m_music.StartMusicStream("first.wav", forEver);
     const unsigned first = m_music.stream;
-    QTRY_VERIFY(!m_heard.sound().isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(!m_heard.sound().isEmpty(), longestWait);
     m_music.StartMusicStream("second.wav", 1);
     QVERIFY(m_music.stream != 0);
     QVERIFY(m_music.stream != first);
-    QTRY_VERIFY(m_heard.sound().endsWith({longFrames, secondMark}));
-    QTRY_VERIFY(m_heard.endsSilent(silence));
+    QTRY_VERIFY_WITH_TIMEOUT(m_heard.sound().endsWith({longFrames, secondMark}), longestWait);
+    QTRY_VERIFY_WITH_TIMEOUT(m_heard.endsSilent(silence), longestWait);
     const QVector<HeardFrame> heard = m_heard.sound();
     const int start = heard.indexOf({1, secondMark});
     QCOMPARE(heard.mid(start), part(secondMark, 1, longFrames));
@@ -221,10 +222,10 @@ void MssInfoTest::startEndsAPause()
 {
     m_music.StartMusicStream("first.wav", forEver);
     m_music.PauseMusic();
-    QTRY_VERIFY(m_heard.endsSilent(silence));
+    QTRY_VERIFY_WITH_TIMEOUT(m_heard.endsSilent(silence), longestWait);
     m_heard.clear();
     m_music.StartMusicStream("second.wav", 1);
-    QTRY_COMPARE(m_heard.sound().size(), longFrames);
+    QTRY_COMPARE_WITH_TIMEOUT(m_heard.sound().size(), longFrames, longestWait);
     QCOMPARE(m_heard.sound(), part(secondMark, 1, longFrames));
 }
 
@@ -232,12 +233,12 @@ void MssInfoTest::startEndsAPause()
 void MssInfoTest::startedAnewAfterItsEnd()
 {
     m_music.StartMusicStream("short.wav", 1);
-    QTRY_COMPARE(m_heard.sound().size(), shortFrames);
-    QTRY_VERIFY(m_heard.endsSilent(silence));
+    QTRY_COMPARE_WITH_TIMEOUT(m_heard.sound().size(), shortFrames, longestWait);
+    QTRY_VERIFY_WITH_TIMEOUT(m_heard.endsSilent(silence), longestWait);
     QVERIFY(m_music.stream != 0);
     m_heard.clear();
     m_music.StartMusicStream("short.wav", 1);
-    QTRY_COMPARE(m_heard.sound(), part(firstMark, 1, shortFrames));
+    QTRY_COMPARE_WITH_TIMEOUT(m_heard.sound(), part(firstMark, 1, shortFrames), longestWait);
 }
 
 void MssInfoTest::nothingOpenIsPassedOver()
@@ -249,7 +250,7 @@ void MssInfoTest::nothingOpenIsPassedOver()
     // The pause isn't kept for the music that comes later.
     m_music.PauseMusic();
     m_music.StartMusicStream("short.wav", 1);
-    QTRY_COMPARE(m_heard.sound().size(), shortFrames);
+    QTRY_COMPARE_WITH_TIMEOUT(m_heard.sound().size(), shortFrames, longestWait);
 }
 
 void MssInfoTest::staysClosed_data()
@@ -283,10 +284,10 @@ void MssInfoTest::staysClosed()
 {
     QFETCH(QString, name);
     m_music.StartMusicStream("first.wav", forEver);
-    QTRY_VERIFY(!m_heard.sound().isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(!m_heard.sound().isEmpty(), longestWait);
     m_music.StartMusicStream(name, forEver);
     QCOMPARE(m_music.stream, 0U);
-    QTRY_VERIFY(m_heard.endsSilent(silence));
+    QTRY_VERIFY_WITH_TIMEOUT(m_heard.endsSilent(silence), longestWait);
 }
 
 void MssInfoTest::playsWhatIsThereOfATuneCutOff_data()
@@ -304,7 +305,7 @@ void MssInfoTest::playsWhatIsThereOfATuneCutOff()
     const QByteArray whole = tunes::wave({shortFrames, firstMark});
     write("cut.wav", whole.left(headBytes + frames * frameBytes));
     m_music.StartMusicStream("cut.wav", 1);
-    QTRY_VERIFY(m_heard.endsSilent(silence + shortFrames));
+    QTRY_VERIFY_WITH_TIMEOUT(m_heard.endsSilent(silence + shortFrames), longestWait);
     QCOMPARE(m_heard.sound(), part(firstMark, 1, frames));
     m_music.StartMusicStream("cut.wav", forEver);
     m_music.StopMusic();
@@ -334,7 +335,7 @@ void MssInfoTest::playsEveryKindWhateverItsName()
     write(name, bytes);
     m_music.StartMusicStream(name, forEver);
     QVERIFY(m_music.stream != 0);
-    QTRY_VERIFY(m_heard.sound().size() > tunes::sampleRate / 2);
+    QTRY_VERIFY_WITH_TIMEOUT(m_heard.sound().size() > tunes::sampleRate / 2, longestWait);
 }
 
 void MssInfoTest::takesAbsolutePathsAndNamesOfAllLetters_data()
@@ -351,7 +352,7 @@ void MssInfoTest::takesAbsolutePathsAndNamesOfAllLetters()
 {
     QFETCH(QString, name);
     m_music.StartMusicStream(name, 1);
-    QTRY_COMPARE(m_heard.sound(), part(firstMark, 1, shortFrames));
+    QTRY_COMPARE_WITH_TIMEOUT(m_heard.sound(), part(firstMark, 1, shortFrames), longestWait);
 }
 
 void MssInfoTest::openingTellsItsEntryPoint()
@@ -383,8 +384,8 @@ void MssInfoTest::handlesThatAreNotOpenArePassedOver()
         m_music.AIL_start_stream(wrong);
         m_music.AIL_close_stream(wrong);
     }
-    QTRY_COMPARE(m_heard.sound().size(), longFrames);
-    QTRY_VERIFY(m_heard.endsSilent(silence));
+    QTRY_COMPARE_WITH_TIMEOUT(m_heard.sound().size(), longFrames, longestWait);
+    QTRY_VERIFY_WITH_TIMEOUT(m_heard.endsSilent(silence), longestWait);
     QCOMPARE(m_heard.sound(), part(firstMark, 1, longFrames));
 }
 

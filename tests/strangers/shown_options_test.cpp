@@ -9,6 +9,7 @@
 #include "scenario/starting_hero_options.h"
 #include "tests/shell/exchange_window.h"
 #include "tests/strangers/shown_texts.h"
+#include "tests/support/longest_wait.h"
 
 #include <QTabWidget>
 #include <QTableWidget>
@@ -86,7 +87,7 @@ void ShownOptionsTest::checkDialog(QDialog &dialog)
     if (!first->isVisible())
         return;
     clickOn(first);
-    QTRY_VERIFY(first->view()->isVisible());
+    QTRY_VERIFY_WITH_TIMEOUT(first->view()->isVisible(), longestWait);
     checkItem(first->view(), first->model()->index(first->currentIndex(), 0));
     checkSize(first->view()->window(), {});
     first->hidePopup();
