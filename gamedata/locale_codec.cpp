@@ -40,8 +40,6 @@ bool keepsAscii(const QTextCodec &codec)
 QTextCodec *codecOfSystem()
 {
     std::setlocale(LC_ALL, "");
-    // Numbers are read and written alike everywhere.
-    std::setlocale(LC_NUMERIC, "C");
     const char *name = nl_langinfo(CODESET);
     const bool ascii = std::find(asciiNames.begin(), asciiNames.end(), name) != asciiNames.end();
     QTextCodec *codec = ascii ? nullptr : QTextCodec::codecForName(name);

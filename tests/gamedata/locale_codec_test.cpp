@@ -16,7 +16,6 @@ private slots:
     void codecThatCannotNameFilesIsRefused();
     void localeDecidesWithoutAName_data();
     void localeDecidesWithoutAName();
-    void numbersKeepTheirPoint();
 };
 
 namespace {
@@ -106,12 +105,6 @@ void LocaleCodecTest::localeDecidesWithoutAName()
     QVERIFY(setLocaleCodec(QStringLiteral("KOI8-R")));
     QVERIFY(setLocaleCodec(QString()));
     QCOMPARE(currentCodec(), codec);
-}
-
-void LocaleCodecTest::numbersKeepTheirPoint()
-{
-    QVERIFY(setLocaleCodec(QString()));
-    QCOMPARE(QByteArray(setlocale(LC_NUMERIC, nullptr)), QByteArray("C"));
 }
 
 QTEST_GUILESS_MAIN(LocaleCodecTest)
