@@ -1,17 +1,16 @@
 #include "document/one_line.h"
 
+#include "gamedata/escaped_utf8.h"
+
 namespace {
 
 constexpr int longest = 100;
 
 bool showsAsItIs(const QString &text, int i)
 {
-    const QChar letter = text[i];
-    if (letter.isHighSurrogate())
-        return i + 1 < text.size() && text[i + 1].isLowSurrogate();
-    if (letter.isLowSurrogate())
-        return i > 0 && text[i - 1].isHighSurrogate();
-    const QChar::Category category = letter.category();
+    if (text[i].isSurrogate())
+        return !isHalfCharacter(text, i);
+    const QChar::Category category = text[i].category();
     return category != QChar::Other_Control && category != QChar::Separator_Line &&
            category != QChar::Separator_Paragraph && category != QChar::Other_NotAssigned;
 }

@@ -10,7 +10,6 @@ constexpr int utf8Mib = 106;
 // Nobody's. As UTF-8's the codec would be taken for one that drops byte order marks.
 constexpr int escapedUtf8Mib = -7106;
 constexpr ushort byteEscape = 0xDC00;
-constexpr char byteOrderMark[] = "\xEF\xBB\xBF";
 
 // The well-formed sequences of UTF-8 by their first byte. Bytes behind the second are 80 to BF.
 struct Utf8Sequence
@@ -63,7 +62,7 @@ bool isEscape(const QString &text, int place)
 {
     const ushort unit = text.at(place).unicode();
     const bool inRange = unit >= byteEscape + 0x80 && unit <= byteEscape + 0xFF;
-    return inRange && !(place > 0 && text.at(place - 1).isHighSurrogate());
+    return inRange && isHalfCharacter(text, place);
 }
 
 bool isWellFormed(const QByteArray &bytes)
@@ -139,7 +138,7 @@ QString textFromUtf8(const QByteArray &bytes)
     if (!isWellFormed(bytes))
         return decodeDamagedUtf8(bytes);
     QString text = QString::fromUtf8(bytes.constData(), bytes.size());
-    if (bytes.startsWith(byteOrderMark))
+    if (bytes.startsWith(utf8Mark))
         text.prepend(QChar(QChar::ByteOrderMark));
     return text;
 }
@@ -153,6 +152,14 @@ QByteArray utf8FromText(const QString &text)
 QChar escapedByte(char byte)
 {
     return QChar(byteEscape + uchar(byte));
+}
+
+bool isHalfCharacter(const QString &text, int place)
+{
+    const QChar letter = text.at(place);
+    if (letter.isHighSurrogate())
+        return place + 1 == text.size() || !text.at(place + 1).isLowSurrogate();
+    return letter.isLowSurrogate() && (place == 0 || !text.at(place - 1).isHighSurrogate());
 }
 
 QByteArray withoutEscapes(const QString &text, const QTextCodec &codec)

@@ -8,12 +8,18 @@
 
 class QTextCodec;
 
+// The byte order mark of a text in UTF-8.
+constexpr char utf8Mark[] = "\xEF\xBB\xBF";
+
 // utf8FromText(textFromUtf8(bytes)) == bytes. A byte order mark in front is text like any other.
 QString textFromUtf8(const QByteArray &bytes);
 QByteArray utf8FromText(const QString &text);
 
 // For other encodings, whose codecs lose bytes of their own.
 QChar escapedByte(char byte);
+// Whether the letter at a place is half of a surrogate pair without its other half: an escape, or
+// what is no text in any encoding.
+bool isHalfCharacter(const QString &text, int place);
 // In that codec but for the escapes, which become their bytes.
 QByteArray withoutEscapes(const QString &text, const QTextCodec &codec);
 

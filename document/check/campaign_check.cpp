@@ -9,6 +9,7 @@
 #include "document/prerequisites.h"
 #include "document/text_catalogue.h"
 #include "gamedata/editor_data.h"
+#include "gamedata/escaped_utf8.h"
 #include "gamedata/limits.h"
 
 #include <QFile>
@@ -37,6 +38,15 @@ void checkNumbers(const CampaignData &campaign, Findings &findings)
         find("campaign.music", QStringLiteral("the game has no music %1").arg(campaign.musicId));
 }
 
+bool isText(const QString &text)
+{
+    for (int i = 0; i < text.size(); ++i) {
+        if (isHalfCharacter(text, i))
+            return false;
+    }
+    return true;
+}
+
 void checkTexts(const CampaignData &campaign, Findings &findings)
 {
     for (const TextPlace &place : textPlaces(campaign)) {
@@ -47,7 +57,7 @@ void checkTexts(const CampaignData &campaign, Findings &findings)
                 {idOf(place),
                  QStringLiteral("%1 letters, the editor keeps %2").arg(text.size()).arg(longest)});
         }
-        if (QString::fromUtf8(text.toUtf8()) != text)
+        if (!isText(text))
             findings.push_back({idOf(place), QStringLiteral("holds bytes that are no text in this "
                                                             "encoding")});
     }

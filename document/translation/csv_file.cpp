@@ -3,6 +3,7 @@
 #include "document/translation/csv_file.h"
 
 #include "document/translation/file_text.h"
+#include "gamedata/escaped_utf8.h"
 #include "gamedata/limits.h"
 
 #include <QStringList>
@@ -11,7 +12,6 @@
 
 namespace {
 
-constexpr char byteOrderMark[] = "\xef\xbb\xbf";
 constexpr char idColumn[] = "id";
 constexpr char contextColumn[] = "context";
 constexpr char sourceColumn[] = "source";
@@ -150,8 +150,8 @@ std::optional<Columns> columnsOf(const QStringList &names)
 
 QByteArray writtenAsCsv(const std::vector<TranslationUnit> &units)
 {
-    QByteArray file = byteOrderMark + QByteArray(idColumn) + ',' + contextColumn + ',' +
-                      sourceColumn + ',' + translationColumn + "\r\n";
+    QByteArray file = utf8Mark + QByteArray(idColumn) + ',' + contextColumn + ',' + sourceColumn +
+                      ',' + translationColumn + "\r\n";
     for (const TranslationUnit &unit : units) {
         file += quotedField(unit.id) + ',' + quotedField(unit.context) + ',' +
                 quotedField(unit.source) + ',' + quotedField(unit.translation) + "\r\n";

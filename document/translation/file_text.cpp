@@ -6,7 +6,7 @@
 
 QString textOfFile(const QByteArray &bytes)
 {
-    const QByteArray mark = "\xef\xbb\xbf";
+    const QByteArray mark = utf8Mark;
     const QTextCodec *codec = QTextCodec::codecForUtfText(bytes, nullptr);
     if (codec && !bytes.startsWith(mark))
         return codec->toUnicode(bytes);

@@ -129,8 +129,8 @@ public:
 
     TranslationReading read()
     {
-        if (m_bytes.startsWith("\xef\xbb\xbf"))
-            m_place = 3;
+        if (m_bytes.startsWith(utf8Mark))
+            m_place = int(std::strlen(utf8Mark));
         while (m_place < m_bytes.size() && m_fault.isEmpty()) {
             const int end = m_bytes.indexOf('\n', m_place);
             const int next = end < 0 ? m_bytes.size() : end + 1;

@@ -4,6 +4,7 @@
 #include "document/translation/csv_file.h"
 #include "document/translation/po_file.h"
 #include "document/translation/xliff_file.h"
+#include "gamedata/escaped_utf8.h"
 
 #include <algorithm>
 #include <array>
@@ -29,15 +30,10 @@ bool isControl(QChar letter)
     return letter < ' ' && letter != '\n' && letter != '\r' && letter != '\t';
 }
 
-// Half of a surrogate pair by itself, or what is no character at all.
+// Half of a character by itself, or what is no character at all.
 bool isNoText(const QString &text, int i)
 {
-    const QChar letter = text[i];
-    if (letter.isHighSurrogate())
-        return i + 1 == text.size() || !text[i + 1].isLowSurrogate();
-    if (letter.isLowSurrogate())
-        return i == 0 || !text[i - 1].isHighSurrogate();
-    return letter.unicode() >= 0xfffe;
+    return isHalfCharacter(text, i) || text[i].unicode() >= 0xfffe;
 }
 
 } // namespace

@@ -95,6 +95,13 @@ void CampaignCheckTest::soundCampaignsAreSilent_data()
             c.description = "Three \xEF\xBB\xBFsteps \xF0\x9F\x98\x80";
         },
         {});
+    row("byte order marks and characters of four bytes",
+        [](Campaign &c) {
+            c.name = "\xEF\xBB\xBF"
+                     "Ember Road";
+            c.description = "Three \xEF\xBB\xBFsteps \xF0\x9F\x98\x80";
+        },
+        {});
     row("story", [](Campaign &c) { c.records[0].stories.replace(0, 1, story(2, 2)); }, {});
     row("three stories for three options",
         [](Campaign &c) {

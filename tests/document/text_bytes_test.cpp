@@ -1,6 +1,7 @@
 // Texts keep every byte that they came with, whatever the codec makes of it.
 #include "document/campaign_data.h"
 #include "document/text_bytes.h"
+#include "gamedata/escaped_utf8.h"
 #include "tests/document/samples.h"
 
 #include <QFile>
@@ -111,6 +112,34 @@ private slots:
         QFETCH(QString, text);
         QCOMPARE(textFromBytes(bytes), text);
         QCOMPARE(bytesFromText(text), bytes);
+    }
+
+    void halvesOfCharactersAreKnown_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QByteArray>("halves"); // "1" at each
+        const QString whole = QString::fromUcs4(U"\U0001F600");
+        const QString high(whole[0]);
+        const QString low(whole[1]);
+        QTest::newRow("none") << QStringLiteral("Ash") << QByteArray("000");
+        QTest::newRow("a byte order mark") << QString(QChar(0xFEFF)) + "x" << QByteArray("00");
+        QTest::newRow("a pair") << "a" + whole + "b" << QByteArray("0000");
+        QTest::newRow("a first half") << high + "a" << QByteArray("10");
+        QTest::newRow("a first half at the end") << "a" + high << QByteArray("01");
+        QTest::newRow("a second half") << low + "a" << QByteArray("10");
+        QTest::newRow("a second half behind a letter") << "a" + low << QByteArray("01");
+        QTest::newRow("around a pair") << high + whole + low << QByteArray("1001");
+        QTest::newRow("an escape") << "a" + escapeOf(0xE9) + "b" << QByteArray("010");
+    }
+
+    void halvesOfCharactersAreKnown()
+    {
+        QFETCH(QString, text);
+        QFETCH(QByteArray, halves);
+        QByteArray found;
+        for (int i = 0; i < text.size(); ++i)
+            found += isHalfCharacter(text, i) ? '1' : '0';
+        QCOMPARE(found, halves);
     }
 
     void everyByteComesBack_data()
