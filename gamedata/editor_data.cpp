@@ -2,6 +2,7 @@
 
 #include "gamedata/game_dir.h"
 #include "gamedata/limits.h"
+#include "gamedata/readable_file.h"
 #include "gamedata/report.h"
 #include "gamedata/table_text.h"
 
@@ -76,7 +77,7 @@ void openArchives()
     const QStringList paths = archivePaths(getGameDir(QStringLiteral("Data")));
     for (const QString &path : paths) {
         QFile file(path);
-        if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        if (openToRead(file, QIODevice::ReadOnly | QIODevice::Unbuffered))
             continue;
         LodArchive archive;
         archive.Read(file, path);

@@ -6,7 +6,7 @@
 
 #include <sys/stat.h>
 
-std::optional<QString> openToRead(QFile &file)
+std::optional<QString> openToRead(QFile &file, QIODevice::OpenMode mode)
 {
     if (!namesOneFile(file.fileName()))
         return qt_error_string(EILSEQ);
@@ -15,7 +15,7 @@ std::optional<QString> openToRead(QFile &file)
     // Of a folder the file itself tells.
     if (there && !S_ISREG(now.st_mode) && !S_ISDIR(now.st_mode))
         return QStringLiteral("Not a regular file");
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(mode))
         return file.errorString();
     return {};
 }

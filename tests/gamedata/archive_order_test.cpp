@@ -1,6 +1,7 @@
 // The archives of the game in their order: which of them has the word about a file.
 #include "tests/gamedata/game_files.h"
 #include "tests/gamedata/last_words.h"
+#include "tests/support/idle_pipe.h"
 
 #include <QTest>
 
@@ -72,6 +73,18 @@ private slots:
         QVERIFY(QDir(game.dataPath(QString())).mkpath(QStringLiteral("folder.lod")));
         QVERIFY(!lastWordsOfStart().isEmpty());
         QCOMPARE(archiveNames(), QStringList("a.lod"));
+    }
+
+    void whatIsNoFileIsNotWaitedFor()
+    {
+        const GameFolder game;
+        QVERIFY(game.write(QStringLiteral("b.lod"), archive({})));
+        const IdlePipe pipe(game.dataPath(QStringLiteral("a.lod")));
+        QVERIFY(pipe.isMade());
+        QVERIFY(QFile::link(QStringLiteral("a.lod"), game.dataPath(QStringLiteral("c.lod"))));
+        QVERIFY(!lastWordsOfStart().isEmpty());
+        QVERIFY(!pipe.wasOpened());
+        QCOMPARE(archiveNames(), QStringList("b.lod"));
     }
 
     void archiveOfAnotherKindStandsInTheListAndAnswersNothing()
