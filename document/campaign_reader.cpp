@@ -88,7 +88,7 @@ public:
     }
 
     // Where in the file the maps begin; nothing if member 1 goes on for longer than can be
-    // believed. Call it once, after read().
+    // believed, or if nobody can tell. Call it once, after read().
     std::optional<qint64> endInFile()
     {
         const qint64 length = m_device.delivered();
@@ -99,7 +99,8 @@ public:
             return end;
         if (m_device.isInMember())
             return {};
-        return packedAgain(length) + frameDifference;
+        const std::optional<qint64> packed = packedAgain(length);
+        return packed ? std::optional(*packed + frameDifference) : std::nullopt;
     }
 
     // The disk kept something back, and the next save would be without it.
@@ -184,7 +185,7 @@ private:
     }
 
     // How long the first bytes of the data would be if zlib packed them by its defaults.
-    qint64 packedAgain(qint64 length)
+    std::optional<qint64> packedAgain(qint64 length)
     {
         m_file.seek(0);
         InflatingDevice device(&m_file, InflatingDevice::Format::GzipMember);

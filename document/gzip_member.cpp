@@ -38,12 +38,12 @@ int get_gz_compressed_size(unsigned char *data, int length)
 {
     PackedLength packed;
     packed.add(reinterpret_cast<const char *>(data), std::max(0, length));
-    return int(packed.finish());
+    return int(packed.finish().value_or(-1));
 }
 
 PackedLength::PackedLength()
 {
-    deflateInit(&m_stream, Z_DEFAULT_COMPRESSION);
+    deflateInit(&m_stream, Z_DEFAULT_COMPRESSION); // without it deflate() answers an error
 }
 
 PackedLength::~PackedLength()
@@ -58,11 +58,11 @@ void PackedLength::add(const char *data, int length)
     deflateAll(Z_NO_FLUSH);
 }
 
-qint64 PackedLength::finish()
+std::optional<qint64> PackedLength::finish()
 {
     m_stream.avail_in = 0;
     deflateAll(Z_FINISH);
-    return m_length;
+    return m_ended ? std::optional(m_length) : std::nullopt;
 }
 
 void PackedLength::deflateAll(int flush)
@@ -73,6 +73,7 @@ void PackedLength::deflateAll(int flush)
         m_stream.avail_out = uInt(dropped.size());
         const int result = deflate(&m_stream, flush);
         m_length += qint64(dropped.size() - m_stream.avail_out);
+        m_ended = result == Z_STREAM_END;
         if (result != Z_OK) // the end, or nothing left to do
             break;
     } while (m_stream.avail_out == 0);

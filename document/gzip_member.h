@@ -6,6 +6,7 @@
 #include <zlib.h>
 
 #include <array>
+#include <optional>
 #include <vector>
 
 // Closes a gz handle: std::unique_ptr<gzFile_s, gz_deleter>.
@@ -22,7 +23,8 @@ struct gz_deleter
 // error code (negative) if the stream doesn't end well within the destination.
 int zlib_inflate(void const *source, int sourceLength, void *destination, int destinationLength);
 
-// Length of the zlib stream that these bytes become at zlib's default level.
+// Length of the zlib stream that these bytes become at zlib's default level; -1 if there isn't the
+// memory to tell.
 int get_gz_compressed_size(unsigned char *data, int length);
 
 // The same for data that comes in portions and needn't be held.
@@ -35,13 +37,14 @@ public:
     PackedLength &operator=(const PackedLength &) = delete;
 
     void add(const char *data, int length);
-    // Closes the stream. Call it once, last.
-    qint64 finish();
+    // Closes the stream. Nothing if there wasn't the memory to pack. Call it once, last.
+    std::optional<qint64> finish();
 
 private:
     void deflateAll(int flush);
 
     z_stream m_stream{};
+    bool m_ended = false;
     qint64 m_length = 0;
 };
 

@@ -1,12 +1,36 @@
 // Packing and unpacking of whole members, held against zlib's own functions.
 #include "document/gzip_member.h"
 
+#include "document/campaign_data.h"
 #include "tests/document/samples.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include <memory>
+
+namespace {
+
+bool memoryIsOut = false;
+
+// While it lives no stream for packing gets its memory.
+struct MemoryFault
+{
+    MemoryFault() { memoryIsOut = true; }
+    ~MemoryFault() { memoryIsOut = false; }
+    MemoryFault(const MemoryFault &) = delete;
+    MemoryFault &operator=(const MemoryFault &) = delete;
+};
+
+} // namespace
+
+// Stands before zlib's own.
+extern "C" int deflateInit_(z_streamp stream, int level, const char *version, int size)
+{
+    return memoryIsOut ? Z_MEM_ERROR
+                       : deflateInit2_(stream, level, Z_DEFLATED, MAX_WBITS, MAX_MEM_LEVEL - 1,
+                                       Z_DEFAULT_STRATEGY, version, size);
+}
 
 using GzHandle = std::unique_ptr<gzFile_s, gz_deleter>;
 
@@ -21,6 +45,8 @@ private slots:
     void thePackedLengthAndTwelveIsTheMembersLength();
     void thePackedLengthIsThatOfCompress_data() { addData(); }
     void thePackedLengthIsThatOfCompress();
+    void withoutMemoryThereIsNoLength();
+    void withoutMemoryNoMapIsReadFromAnotherPlace();
     void portionsHaveTheLengthOfTheWhole_data() { addData(); }
     void portionsHaveTheLengthOfTheWhole();
     void portionsPackIntoTheSameMember_data() { addData(); }
@@ -80,13 +106,42 @@ void GzipMemberTest::thePackedLengthIsThatOfCompress()
              int(length));
 }
 
+void GzipMemberTest::withoutMemoryThereIsNoLength()
+{
+    QByteArray data("the same, the same, the same");
+    const MemoryFault fault;
+    QCOMPARE(get_gz_compressed_size(reinterpret_cast<uchar *>(data.data()), data.size()), -1);
+    PackedLength packed;
+    packed.add(data.constData(), data.size());
+    QVERIFY(!packed.finish());
+}
+
+// Of a first member that ends badly only its packed length tells where the maps begin.
+void GzipMemberTest::withoutMemoryNoMapIsReadFromAnotherPlace()
+{
+    samples::setTables();
+    const QByteArray map = samples::mapFile(28);
+    const QByteArray records = samples::campaignRecords(10, quint32(map.size()), 0);
+    QByteArray head = samples::pack(records + samples::noise(90000));
+    head[head.size() - 6] = char(~head[head.size() - 6]);
+    const QTemporaryDir folder;
+    QFile file(samples::writeFile(folder.filePath("c.e3c"), head + map));
+    CampaignData campaign;
+    QVERIFY(!campaign.readCampaign(&file));
+    const MemoryFault fault;
+    const auto failure = campaign.readCampaign(&file);
+    QVERIFY(failure);
+    QCOMPARE(*failure, QString("Incorrect or damaged file."));
+    QVERIFY(campaign.scenarios.empty());
+}
+
 void GzipMemberTest::portionsHaveTheLengthOfTheWhole()
 {
     QFETCH(QByteArray, data);
     PackedLength packed;
     for (int at = 0; at < data.size(); at += 1000)
         packed.add(data.constData() + at, qMin(1000, data.size() - at));
-    QCOMPARE(packed.finish() + 12, qint64(packGzipMember(data).size()));
+    QCOMPARE(packed.finish().value_or(0) + 12, qint64(packGzipMember(data).size()));
 }
 
 void GzipMemberTest::portionsPackIntoTheSameMember()
