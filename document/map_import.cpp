@@ -24,11 +24,11 @@ std::shared_ptr<MapHeader> headerFrom(InflatingDevice &device)
     return device.sourceFailed() ? nullptr : imported.mapHeader;
 }
 
-// The rest of the file, read once into its one buffer.
-QByteArray readRest(QFile &file)
+// The file from its start, read once into its one buffer.
+QByteArray readWhole(QFile &file)
 {
-    const qint64 size = file.size() - file.pos();
-    if (file.isSequential() || size <= 0 || size > limits::mapBytes)
+    const qint64 size = file.size();
+    if (size <= 0 || size > limits::mapBytes || !file.seek(0))
         return {};
     QByteArray bytes(int(size), Qt::Uninitialized);
     if (file.read(bytes.data(), size) != size)
@@ -38,6 +38,8 @@ QByteArray readRest(QFile &file)
 
 } // namespace
 
+// All is read through one handle of its own: if the file is replaced while this goes on, the header
+// is still that of the bytes.
 int ScenarioData::ReadMapFromFile(QFile *file)
 {
     QFile packed(file->fileName());
@@ -58,7 +60,7 @@ int ScenarioData::ReadMapFromFile(QFile *file)
         qDebug() << "Err2";
         return -1;
     }
-    const QByteArray bytes = readRest(*file);
+    const QByteArray bytes = readWhole(packed);
     if (!header || bytes.isEmpty()) {
         qDebug() << "Scenario Read Error";
         return 0;

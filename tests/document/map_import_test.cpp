@@ -19,6 +19,7 @@ private slots:
     void nothingToReadIsZero_data();
     void nothingToReadIsZero();
     void aFileThatIsGoneIsZero();
+    void aFileReplacedMeanwhileIsTakenAsOne();
     void aDamagedBodyDoesNoHarm();
     void anyPrefixImportsOrLeavesTheScenario();
     void aBombEndsAtTheLimit();
@@ -117,6 +118,18 @@ void MapImportTest::aFileThatIsGoneIsZero()
     QTest::ignoreMessage(QtDebugMsg, "Scenario Read Error");
     QCOMPARE(m_scenario.ReadMapFromFile(&file), 0);
     QCOMPARE(m_scenario.mapHeader, m_before);
+}
+
+void MapImportTest::aFileReplacedMeanwhileIsTakenAsOne()
+{
+    QFile file(samples::writeFile(m_folder.filePath("new.e3m"), samples::mapFile(28)));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray other =
+        samples::pack(samples::mapHeader(28).replace("Frostmere", "Ironmoors"));
+    samples::writeFile(file.fileName(), other); // another file of that name
+    QCOMPARE(m_scenario.ReadMapFromFile(&file), 1);
+    QCOMPARE(m_scenario.mapHeader->mapName, QString("Ironmoors"));
+    QCOMPARE(m_scenario.compressedMap, other);
 }
 
 void MapImportTest::aDamagedBodyDoesNoHarm()
