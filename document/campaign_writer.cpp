@@ -67,10 +67,10 @@ public:
     bool isWhole() const { return m_written && m_headerBytes <= limits::campaignHeaderBytes; }
 
     // Why this mustn't become a file, an error number of the system, or 0: the reader would refuse
-    // so much text.
+    // so much text, or so much of maps.
     int fault() const
     {
-        if (m_textBytes > limits::campaignTextBytes)
+        if (m_textBytes > limits::campaignTextBytes || m_mapBytes > limits::campaignMapBytes)
             return EFBIG;
         return isWhole() ? 0 : ENOMEM;
     }
@@ -102,6 +102,7 @@ private:
             m_previousWithMap = int(index);
         writeScenarioRecord(stream, scenario, context);
         m_textBytes += bonusMemory(scenario);
+        m_mapBytes += map.size();
         if (!map.isEmpty())
             m_maps.push_back(map);
     }
@@ -112,6 +113,7 @@ private:
     bool m_written = true;
     qint64 m_headerBytes = 0;
     qint64 m_textBytes = 0; // as the reader counts them
+    qint64 m_mapBytes = 0;
     std::vector<QByteArray> m_maps;
 };
 

@@ -60,14 +60,14 @@ bool readEmbeddedMaps(QFile &file, qint64 offset, std::vector<ScenarioData> &sce
     if (file.isSequential())
         return false; // its bytes are gone once the header has been read
     const qint64 fileSize = file.size();
+    if (!canBeHeld(scenarios, fileSize - offset))
+        return false;
     qint64 allowance = limits::mapHeaderBytes;
     for (ScenarioData &scenario : scenarios) {
         if (scenario.mapSize == 0)
             continue;
         const qint64 promised = scenario.mapSize;
         const qint64 size = std::clamp(fileSize - offset, qint64(0), promised);
-        if (size > limits::mapBytes)
-            return false;
         // A map that the disk doesn't give back mustn't look like one that was never there: the
         // next save would make that true.
         if (size > 0) {
@@ -82,6 +82,21 @@ bool readEmbeddedMaps(QFile &file, qint64 offset, std::vector<ScenarioData> &sce
         allowance += limits::mapHeaderRatio * qint64(scenario.mapSize);
         const qint64 bound = unpackedBound(scenario.compressedMap, scenario.mapSize == promised);
         allowance -= readHeader(scenario, std::min({bound, limits::mapHeaderBytes, allowance}));
+    }
+    return true;
+}
+
+// A hole in a file has no size on the disk, but all of it in memory.
+bool canBeHeld(const std::vector<ScenarioData> &scenarios, qint64 there)
+{
+    qint64 left = std::max(qint64(0), there);
+    qint64 held = 0;
+    for (const ScenarioData &scenario : scenarios) {
+        const qint64 size = std::min(left, qint64(scenario.mapSize));
+        left -= size;
+        held += size;
+        if (size > limits::mapBytes || held > limits::campaignMapBytes)
+            return false;
     }
     return true;
 }

@@ -30,11 +30,19 @@ constexpr qint64 textFileBytes = qint64(64) * 1024 * 1024;
 // Entries of a translators' file: seven texts of each scenario, and some that are gone since.
 constexpr qint64 translationUnits = 250000;
 
+// Of the same: columns of a row, levels of elements, attributes of an element.
+constexpr int csvColumns = 1000;
+constexpr int xliffLevels = 64;
+constexpr int xliffAttributes = 200;
+
 // Bits of an array that are made even where the file ends before them.
 constexpr quint32 bitsWithoutData = 65536;
 
 // A map file, packed as it is.
 constexpr qint64 mapBytes = qint64(256) * 1024 * 1024;
+
+// All maps of a campaign together, packed as they are. A thousand of the largest maps take that.
+constexpr qint64 campaignMapBytes = qint64(1024) * 1024 * 1024;
 
 // Inflated bytes of a map that are looked at; a header is some kilobytes long.
 constexpr qint64 mapHeaderBytes = qint64(4) * 1024 * 1024;
@@ -58,6 +66,9 @@ constexpr qint64 textTableBytes = qint64(4) * 1024 * 1024;
 // The settings file and the table file.
 constexpr qint64 settingsBytes = qint64(4) * 1024 * 1024;
 constexpr qint64 tableFileBytes = qint64(64) * 1024 * 1024;
+
+// Chunks of a tune's file that are passed through in search of its format.
+constexpr int tuneChunks = 1000;
 
 // The number after a name in the table file that can be a key of a table: creatures, artifacts...
 constexpr int tableId = 65535;

@@ -1,5 +1,6 @@
 // Campaign files that claim more than any campaign has: read up to the limits, soon and in little
 // memory.
+#include "document/embedded_map.h"
 #include "gamedata/limits.h"
 #include "tests/document/campaign_reading.h"
 #include "tests/support/processor_time.h"
@@ -21,6 +22,8 @@ private slots:
     void aMapsHeaderIsReadUpToItsLimit();
     void allHeadersOfACampaignShareAnAllowance();
     void aMapAsLargeAsTheLimitIsHeld();
+    void allMapsOfACampaignAreHeldUpToALimit();
+    void holesOfAFileTakeNoMemory();
     void theRestOfTheMemberIsPassedOverUpToTheLimit();
     void textsShareAnAllowance();
     void bonusesCountAsText();
@@ -39,6 +42,27 @@ static QByteArray mapOfALongName()
 {
     const QByteArray front = ByteWriter().u32(28).u8(1).i32(72).u8(0).u32(2147483647u).bytes();
     return samples::packWithZeros(front, qint64(5) << 20);
+}
+
+// The largest resident size since the last reset, in bytes.
+static qint64 peakMemory()
+{
+    QFile status("/proc/self/status");
+    status.open(QIODevice::ReadOnly);
+    for (const QByteArray &line : status.readAll().split('\n')) {
+        if (line.startsWith("VmHWM:"))
+            return line.mid(6).simplified().split(' ').first().toLongLong() * 1024;
+    }
+    return -1;
+}
+
+static qint64 resetPeakMemory()
+{
+    malloc_trim(0); // or the heap's free pages would hide what is taken anew
+    QFile refs("/proc/self/clear_refs");
+    refs.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    refs.write("5");
+    return peakMemory();
 }
 
 void CampaignLimitsTest::theStatedSizeOfAMapIsBelievedUpToTheRatio()
@@ -106,6 +130,42 @@ void CampaignLimitsTest::aMapAsLargeAsTheLimitIsHeld()
         else
             QCOMPARE(c.scenarios[0].mapSize, quint32(limits::mapBytes));
     }
+}
+
+void CampaignLimitsTest::allMapsOfACampaignAreHeldUpToALimit()
+{
+    std::vector<ScenarioData> scenarios(size_t(limits::campaignMapBytes / limits::mapBytes) + 1);
+    for (ScenarioData &scenario : scenarios)
+        scenario.mapSize = quint32(limits::mapBytes);
+    QVERIFY(canBeHeld(scenarios, limits::campaignMapBytes)); // of the last one nothing is there
+    QVERIFY(!canBeHeld(scenarios, limits::campaignMapBytes + 1));
+    QVERIFY(canBeHeld(scenarios, 0));
+    QVERIFY(canBeHeld(scenarios, -1)); // the maps would begin behind the file's end
+    scenarios[0].mapSize += 1;
+    QVERIFY(canBeHeld(scenarios, limits::mapBytes));
+    QVERIFY(!canBeHeld(scenarios, limits::mapBytes + 1));
+}
+
+void CampaignLimitsTest::holesOfAFileTakeNoMemory()
+{
+    constexpr int maps = 100;
+    samples::Head head;
+    head.hasMap = 0;
+    head.scenarioCount = maps;
+    const samples::Scenario scenario{"a.e3m", quint32(limits::mapBytes), QByteArray(13, '\0')};
+    const QByteArray front =
+        samples::pack(samples::head(head) + samples::record(10, scenario).repeated(maps));
+    QFile file(samples::writeFile(m_folder.filePath("hollow.e3c"), front));
+    if (!file.resize(front.size() + maps * limits::mapBytes))
+        QSKIP("This file system holds no file of 25 GB, not even a hollow one.");
+    const qint64 before = resetPeakMemory();
+    CampaignData c;
+    const auto failure = c.readCampaign(&file);
+    const qint64 grown = peakMemory() - before;
+    QVERIFY(failure);
+    QCOMPARE(*failure, QString("Incorrect or damaged file."));
+    if (!sanitized)
+        QVERIFY2(grown < qint64(100) * 1024 * 1024, qPrintable(QString::number(grown)));
 }
 
 void CampaignLimitsTest::theRestOfTheMemberIsPassedOverUpToTheLimit()
@@ -214,27 +274,6 @@ void CampaignLimitsTest::absurdNumbersStayCheap_data()
         mapWith.left(atBits) + ByteWriter().u32(0).u32(4294967295u).bytes(), tooMany / 4);
     QTest::newRow("maps with 2^32 - 1 placeholders")
         << samples::campaign(10, placeholderBomb, placeholderBomb);
-}
-
-// The largest resident size since the last reset, in bytes.
-static qint64 peakMemory()
-{
-    QFile status("/proc/self/status");
-    status.open(QIODevice::ReadOnly);
-    for (const QByteArray &line : status.readAll().split('\n')) {
-        if (line.startsWith("VmHWM:"))
-            return line.mid(6).simplified().split(' ').first().toLongLong() * 1024;
-    }
-    return -1;
-}
-
-static qint64 resetPeakMemory()
-{
-    malloc_trim(0); // or the heap's free pages would hide what is taken anew
-    QFile refs("/proc/self/clear_refs");
-    refs.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
-    refs.write("5");
-    return peakMemory();
 }
 
 void CampaignLimitsTest::absurdNumbersStayCheap()

@@ -22,6 +22,7 @@ private slots:
     void savesNoCampaignOnAMapThatTheGameLacks();
     void savesNoMoreTextThanCanBeReadAgain_data();
     void savesNoMoreTextThanCanBeReadAgain();
+    void savesNoMoreMapsThanCanBeReadAgain();
 
 private:
     const QTemporaryDir m_folder;
@@ -135,6 +136,28 @@ void CampaignSavingTest::savesNoMoreTextThanCanBeReadAgain()
     QVERIFY(!failed.ok);
     QCOMPARE(failed.error, qt_error_string(EFBIG));
     QCOMPARE(file.size(), size); // the old file stands
+}
+
+// The maps share their bytes, which are never looked at.
+void CampaignSavingTest::savesNoMoreMapsThanCanBeReadAgain()
+{
+    CampaignData c;
+    c.initDummyCampaign(4, true, 0, 0);
+    const QByteArray map(int(limits::mapBytes), Qt::Uninitialized);
+    for (qint64 bytes = 0; bytes < limits::campaignMapBytes; bytes += map.size()) {
+        ScenarioData &scenario = c.scenarios[size_t(bytes / map.size())];
+        scenario.compressedMap = map;
+        scenario.mapSize = quint32(map.size());
+    }
+    QVERIFY(c.unpacked());
+    c.scenarios.back().compressedMap = "1";
+    c.scenarios.back().mapSize = 1;
+    QVERIFY(!c.unpacked());
+    const QString path = m_folder.filePath("maps.e3c");
+    const SaveResult failed = c.saveTo(path);
+    QVERIFY(!failed.ok);
+    QCOMPARE(failed.error, qt_error_string(EFBIG));
+    QVERIFY(!QFile::exists(path));
 }
 
 QTEST_GUILESS_MAIN(CampaignSavingTest)
