@@ -8,6 +8,8 @@
 //        28  "\x01vorbis", version (4), channels (1), samples a second (4), ...
 #include "shell/tune_file.h"
 
+#include "gamedata/limits.h"
+
 #include <QFile>
 #include <QtEndian>
 
@@ -17,7 +19,6 @@ constexpr qint64 headBytes = 44;
 
 constexpr qint64 firstChunk = 12;
 constexpr qint64 chunkHeadBytes = 8;
-constexpr int mostChunks = 1000;
 
 constexpr int oggChannels = 39;
 constexpr int oggSampleRate = 40;
@@ -42,7 +43,7 @@ bool isSoundFormat(const QByteArray &chunk)
 bool formatsAreSound(QFile &file)
 {
     qint64 place = firstChunk;
-    for (int i = 0; i <= mostChunks; ++i) {
+    for (int i = 0; i <= limits::tuneChunks; ++i) {
         if (!file.seek(place))
             return true;
         const QByteArray head = file.read(chunkHeadBytes);

@@ -16,7 +16,6 @@ constexpr char idColumn[] = "id";
 constexpr char contextColumn[] = "context";
 constexpr char sourceColumn[] = "source";
 constexpr char translationColumn[] = "translation";
-constexpr int mostColumns = 1000;
 
 QByteArray quotedField(const QString &text)
 {
@@ -44,8 +43,11 @@ public:
         m_rowLine = m_line;
         QStringList fields;
         do {
-            fields << field();
-        } while (m_fault.isEmpty() && takeSeparator() && fields.size() < mostColumns);
+            if (fields.size() == limits::csvColumns)
+                m_fault = QStringLiteral("there are too many columns");
+            else
+                fields << field();
+        } while (m_fault.isEmpty() && takeSeparator());
         if (m_fault.isEmpty() && !atEnd() && !takeLineEnd())
             m_fault = QStringLiteral("something follows a closing quotation mark");
         return fields;

@@ -22,9 +22,7 @@
 
 namespace {
 
-constexpr int deepest = 64;                            // levels of elements
 constexpr char gettextContext[] = "x-gettext-msgctxt"; // where Qt's tools keep a PO file's context
-constexpr int mostAttributes = 200;                    // of one element
 
 void writeUnit(QXmlStreamWriter &xml, const TranslationUnit &unit)
 {
@@ -99,7 +97,7 @@ private:
         int attributes = 0;
         for (; m_place < m_text.size() && m_text[m_place] != '>'; ++m_place) {
             const QChar letter = m_text[m_place];
-            if (letter == '=' && ++attributes > mostAttributes) {
+            if (letter == '=' && ++attributes > limits::xliffAttributes) {
                 m_fault = QStringLiteral("an element has too many attributes");
                 return;
             }
@@ -174,7 +172,7 @@ private:
     {
         if (!m_xml.isStartElement())
             return false;
-        if (++m_depth > deepest)
+        if (++m_depth > limits::xliffLevels)
             fail(QStringLiteral("elements are nested too deeply"));
         return m_fault.isEmpty();
     }

@@ -1,4 +1,5 @@
 // Files that no translator's tool has written: what is wrong is told with its line, and soon.
+#include "document/translation/csv_file.h"
 #include "document/translation/translation_file.h"
 #include "document/translation/xliff_file.h"
 
@@ -20,6 +21,9 @@ private slots:
     void everyShorterFileHasAnAnswer();
     void endlessFilesEndAtTheLimit_data();
     void endlessFilesEndAtTheLimit();
+    void aRowHasColumnsUpToTheLimit();
+    void anElementHasAttributesUpToTheLimit();
+    void elementsAreNestedUpToTheLimit();
     void xmlThatWouldTakeMinutesIsRefused_data();
     void xmlThatWouldTakeMinutesIsRefused();
 };
@@ -144,6 +148,39 @@ void TranslationFaultsTest::endlessFilesEndAtTheLimit()
     QCOMPARE(int(reading(most).units.size()), most);
     const QString error = reading(most + 1).error;
     QVERIFY2(error.contains(": there are too many "), qPrintable(error));
+}
+
+void TranslationFaultsTest::aRowHasColumnsUpToTheLimit()
+{
+    const QByteArray others = QByteArray(limits::csvColumns - 3, ',') + "\n";
+    const QByteArray names = "id,source,translation" + others;
+    QCOMPARE(lines(readCsv(names + "a,x,y" + others).units), QStringList("a|x|y"));
+    QCOMPARE(readCsv(names + "a,x,y," + others).error,
+             QString("line 2: there are too many columns"));
+    QCOMPARE(readCsv(names + "a,x,y" + others.chopped(1) + ",").error,
+             QString("line 2: there are too many columns"));
+}
+
+void TranslationFaultsTest::anElementHasAttributesUpToTheLimit()
+{
+    QByteArray attributes;
+    for (int i = 1; i < limits::xliffAttributes; ++i)
+        attributes += " a" + QByteArray::number(i) + "='x'";
+    const QByteArray begin = "<xliff version=\"1.2\"" + attributes;
+    QCOMPARE(readXliff(begin + "/>").error, QString());
+    QCOMPARE(readXliff(begin + " b='x'/>").error,
+             QString("line 1: an element has too many attributes"));
+}
+
+void TranslationFaultsTest::elementsAreNestedUpToTheLimit()
+{
+    const auto nested = [](int levels) {
+        return "<xliff version=\"1.2\">" + QByteArray("<a>").repeated(levels - 1) +
+               QByteArray("</a>").repeated(levels - 1) + "</xliff>";
+    };
+    QCOMPARE(readXliff(nested(limits::xliffLevels)).error, QString());
+    QCOMPARE(readXliff(nested(limits::xliffLevels + 1)).error,
+             QString("line 1: elements are nested too deeply"));
 }
 
 void TranslationFaultsTest::xmlThatWouldTakeMinutesIsRefused_data()
