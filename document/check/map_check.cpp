@@ -62,13 +62,18 @@ private:
     QByteArray m_head;
 };
 
-void checkHeader(const QByteArray &head, const QString &where, Findings &findings)
+void checkHeader(const Member &member, const QString &where, Findings &findings)
 {
-    QDataStream stream(head);
+    QDataStream stream(member.head());
     stream.setByteOrder(QDataStream::LittleEndian);
     ScenarioData scenario;
     scenario.ReadMapHeader(stream, false);
-    if (stream.status() != QDataStream::Ok)
+    const bool isCut = stream.status() != QDataStream::Ok;
+    const bool restIsUnknown =
+        member.exceedsAllowance() && member.head().size() < limits::mapHeaderBytes;
+    if (isCut && restIsUnknown)
+        return;
+    if (isCut)
         findings.push_back({where, QStringLiteral("its header is cut short")});
     else if (scenario.mapHeader->anyPlayers == 0)
         findings.push_back({where, QStringLiteral("nobody can play it")});
@@ -83,9 +88,12 @@ void checkMap(const QByteArray &map, const QString &where, qint64 &allowance, Fi
         find(QStringLiteral("isn't packed by gzip"));
         return;
     }
+    const bool ofCampaign = allowance < limits::checkedMapBytes;
     const Member member(map, std::min(allowance, limits::checkedMapBytes));
     allowance = std::max(qint64(0), allowance - member.size());
-    if (member.exceedsAllowance())
+    if (member.exceedsAllowance() && ofCampaign)
+        find(QStringLiteral("isn't looked at whole: the campaign's maps are too large together"));
+    else if (member.exceedsAllowance())
         find(QStringLiteral("is too large to be looked at whole"));
     else if (member.isCutShort())
         find(QStringLiteral("is cut short"));
@@ -93,7 +101,7 @@ void checkMap(const QByteArray &map, const QString &where, qint64 &allowance, Fi
         find(QStringLiteral("is damaged: %1").arg(member.fault()));
     else if (member.behind() > 0)
         find(QStringLiteral("%1 bytes stand behind its end").arg(member.behind()));
-    checkHeader(member.head(), where, findings);
+    checkHeader(member, where, findings);
 }
 
 bool checkMapFile(QFile &file, Findings &findings)

@@ -4,6 +4,7 @@
 
 #include "document/campaign_data.h"
 #include "document/inflating_device.h"
+#include "gamedata/limits.h"
 #include "gamedata/locale_codec.h"
 #include "tests/document/checked_campaigns.h"
 #include "tests/support/tiny_game.h"
@@ -27,6 +28,9 @@ private slots:
     void damagedHeaderIsTold();
     void faultsOfMapFilesAreTold_data();
     void faultsOfMapFilesAreTold();
+    void mapsShareAnAllowance();
+    void headersBeyondTheAllowanceAreNotJudged();
+    void mapsOfAGigabyteAreLookedAtAndNoMore();
     void unreadableCampaignsHaveTheirMessage();
     void whatSavingChangesIsTold();
 
@@ -42,6 +46,9 @@ private:
 };
 
 namespace {
+
+constexpr char campaignIsTooLarge[] =
+    "isn't looked at whole: the campaign's maps are too large together";
 
 using Break = void (*)(Campaign &campaign);
 
@@ -87,12 +94,6 @@ void CampaignCheckTest::soundCampaignsAreSilent_data()
             c.name = QByteArray(60, 'x');
             c.description = QByteArray(300, 'x');
             c.records[0].regionText = QByteArray(600, 'x');
-        },
-        {});
-    row("byte order marks and characters of four bytes",
-        [](Campaign &c) {
-            c.name = "\xEF\xBB\xBF" "Ember Road";
-            c.description = "Three \xEF\xBB\xBFsteps \xF0\x9F\x98\x80";
         },
         {});
     row("byte order marks and characters of four bytes",
@@ -286,9 +287,12 @@ void CampaignCheckTest::faultsOfMapFilesAreTold_data()
         << QStringList(QString("file: %1 bytes stand behind its end").arg(map().size()));
     QTest::newRow("nobody") << samples::pack(samples::mapHeader(28, 0, 0))
                             << QStringList("file: nobody can play it");
-    QTest::newRow("large") << samples::packWithZeros(samples::mapHeader(28),
-                                                     qint64(300) * 1024 * 1024)
-                           << QStringList("file: is too large to be looked at whole");
+    const QByteArray header = samples::mapHeader(28);
+    const qint64 zeros = limits::checkedMapBytes - header.size();
+    QTest::newRow("as large as is looked at")
+        << samples::packWithZeros(header, zeros) << QStringList();
+    QTest::newRow("larger") << samples::packWithZeros(header, zeros + 1)
+                            << QStringList("file: is too large to be looked at whole");
 }
 
 void CampaignCheckTest::faultsOfMapFilesAreTold()
@@ -303,6 +307,52 @@ void CampaignCheckTest::faultsOfMapFilesAreTold()
     for (const Finding &finding : findings)
         found << finding.where + ": " + finding.what;
     QCOMPARE(found, lines);
+}
+
+void CampaignCheckTest::mapsShareAnAllowance()
+{
+    const QByteArray whole = samples::mapHeader(28) + samples::noise(100000);
+    qint64 allowance = whole.size();
+    Findings findings;
+    checkMap(samples::pack(whole), QStringLiteral("a"), allowance, findings);
+    QCOMPARE(allowance, 0);
+    QVERIFY(findings.empty());
+    allowance = whole.size() - 1;
+    checkMap(samples::pack(whole), QStringLiteral("a"), allowance, findings);
+    QCOMPARE(allowance, 0);
+    QCOMPARE(findings.size(), size_t(1));
+    QCOMPARE(findings[0].what, QString(campaignIsTooLarge));
+}
+
+void CampaignCheckTest::headersBeyondTheAllowanceAreNotJudged()
+{
+    const QByteArray front = ByteWriter().u32(28).u8(1).u32(72).u8(0).u32(100000).bytes();
+    const QByteArray rest = samples::noise(100000) + samples::mapHeader(28).mid(23);
+    qint64 allowance = 0;
+    Findings findings;
+    checkMap(samples::pack(front + rest), QStringLiteral("a"), allowance, findings);
+    QCOMPARE(findings.size(), size_t(1));
+    QCOMPARE(findings[0].what, QString(campaignIsTooLarge));
+}
+
+void CampaignCheckTest::mapsOfAGigabyteAreLookedAtAndNoMore()
+{
+    const QByteArray header = samples::mapHeader(28);
+    const QByteArray large =
+        samples::packWithZeros(header, limits::checkedMapBytes - header.size());
+    Campaign campaign = soundWithoutMap();
+    QCOMPARE(limits::checkedCampaignBytes % limits::checkedMapBytes, 0);
+    campaign.count = quint32(limits::checkedCampaignBytes / limits::checkedMapBytes) + 1;
+    campaign.records.assign(campaign.count, campaign.records[0]);
+    for (quint32 i = 0; i < campaign.count; ++i) {
+        Record &record = campaign.records[i];
+        record.mapFileName = QByteArray::number(i) + ".e3m";
+        record.prerequisites = QByteArray(1, i == 0 ? '\0' : char(1 << (i - 1)));
+        if (i + 1 < campaign.count)
+            record.map = large;
+    }
+    QCOMPARE(told(bytesOf(campaign)),
+             QStringList(QString("scenario.5.map: ") + campaignIsTooLarge));
 }
 
 void CampaignCheckTest::unreadableCampaignsHaveTheirMessage()
