@@ -79,14 +79,8 @@ void EditorData::initCreatures(QTextCodec *textCodec)
 {
     QStringList lines = readTxtFile(QStringLiteral("CRTRAITS.TXT"), textCodec);
 
-    // The table of marks has room for every mark, however few creatures there are; a creature
-    // whose number lies beyond it isn't marked.
-    std::vector<bool> leftOut(std::max(getCreatureCount(lines), leftOutCreatures.back() + 1));
-    for (const unsigned number : leftOutCreatures)
-        leftOut[number] = true;
-    const auto isLeftOut = [&leftOut](int number) {
-        return std::size_t(number) < leftOut.size() && leftOut[std::size_t(number)];
-    };
+    table_text::dropFirst(lines, 2);
+    const auto isLeftOut = [](int number) { return contains(leftOutCreatures, unsigned(number)); };
 
     table_text::forEachName(lines, traitColumns, [&](int row, const QString &name) {
         if (!isLeftOut(row))
