@@ -63,7 +63,6 @@ void addAllByRecursion(CampaignData &campaign, size_t index, Scenarios &result)
 }
 
 constexpr int chainLength = 30000;
-constexpr int unhurriedMilliseconds = 20000; // of computing, with sanitizers on a slow machine
 
 } // namespace
 

@@ -1,7 +1,6 @@
 // The list of prerequisites: what it offers, and what a click on it does.
 #include "tests/scenario/general_tab.h"
-
-#include <QElapsedTimer>
+#include "tests/support/processor_time.h"
 
 class ScenarioGeneralPrerequisitesTest : public QObject
 {
@@ -300,8 +299,7 @@ void ScenarioGeneralPrerequisitesTest::manyWaysThroughTheGraphTakeNoTime()
     CampaignData campaign = campaignOf(true, names);
     for (int i = 2; i < 2 * layers; ++i)
         require(campaign, i, {i - 2 - i % 2, i - 1 - i % 2});
-    QElapsedTimer timer;
-    timer.start();
+    const ProcessorTime time;
     GeneralTab tab(campaign, top);
     QCOMPARE(tab.prerequisites()->count(), 2 * layers - 1);
     QCOMPARE(tab.shownPrerequisites().filter("implied").size(), top - 2);
@@ -313,7 +311,8 @@ void ScenarioGeneralPrerequisitesTest::manyWaysThroughTheGraphTakeNoTime()
     QCOMPARE(tab.shownPrerequisites(), QStringList({"1 free"}));
     tab.clickOnBoxOf(1);
     tab.click("removeButton");
-    QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed())));
+    const qint64 milliseconds = time.milliseconds();
+    QVERIFY2(milliseconds < unhurriedMilliseconds, qPrintable(QString::number(milliseconds)));
 }
 
 QTEST_MAIN(ScenarioGeneralPrerequisitesTest)
