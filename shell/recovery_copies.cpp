@@ -1,6 +1,6 @@
 #include "shell/recovery_copies.h"
 
-#include "shell/file_in_writing.h"
+#include "shell/copy_in_place.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -11,16 +11,6 @@
 namespace {
 
 constexpr int basesTried = 100; // for copies of one second and one document
-
-// The file that stands in a copy's place in the end; if it is still being written, `end` decides
-// when that is.
-std::unique_ptr<QFile> settled(std::unique_ptr<QFile> file, bool (FileInWriting::*end)())
-{
-    auto *writing = dynamic_cast<FileInWriting *>(file.get());
-    if (!writing || (writing->*end)())
-        return file;
-    return std::move(writing->old);
-}
 
 } // namespace
 
@@ -37,6 +27,11 @@ QString RecoveryCopies::usualFolder()
 
 RecoveryCopies::RecoveryCopies(QString folder) : m_folder(std::move(folder)) {}
 
+RecoveryCopies::~RecoveryCopies()
+{
+    leave();
+}
+
 void RecoveryCopies::keep(const QString &documentName, const RecoveryOrigin &origin,
                           const UnpackedFile &content)
 {
@@ -48,41 +43,32 @@ void RecoveryCopies::keep(const QString &documentName, const RecoveryOrigin &ori
     // Before the copy: one without its note would be that of a document without a file.
     if (isNew && !origin.path.isEmpty())
         writeOrigin(originPath(m_folder, m_base), origin);
-    // What is being written is outdated, and might come last.
-    m_lock = settled(std::move(m_lock), &FileInWriting::stop);
-    auto written = replaceFile(m_path, content);
-    if (!written) {
+    if (!m_copy->replace(content)) {
         if (isNew)
             remove();
         return;
     }
-    if (auto *writing = dynamic_cast<FileInWriting *>(written.get()))
-        writing->old = std::move(m_lock);
-    m_lock = std::move(written);
     if (isNew)
         removeOldest();
 }
 
 void RecoveryCopies::remove()
 {
-    if (m_base.isEmpty())
+    if (!m_copy)
         return;
-    m_lock = settled(std::move(m_lock), &FileInWriting::stop);
-    QFile::remove(m_path);
-    QFile::remove(originPath(m_folder, m_base));
-    leave();
+    m_copy->stop();
+    removeFiles();
+    forget();
 }
 
 void RecoveryCopies::leave()
 {
-    m_lock = settled(std::move(m_lock), &FileInWriting::finish);
-    if (m_lock && m_lock->size() == 0) { // the name of a copy that could not be written
-        QFile::remove(m_path);
-        QFile::remove(originPath(m_folder, m_base));
-    }
-    m_lock.reset();
-    m_base.clear();
-    m_path.clear();
+    if (!m_copy)
+        return;
+    m_copy->finish();
+    if (m_copy->isEmpty()) // the name of a copy that could not be written
+        removeFiles();
+    forget();
 }
 
 std::optional<FoundCopy> RecoveryCopies::newestToOffer() const
@@ -111,7 +97,7 @@ void RecoveryCopies::takeOver(FoundCopy copy)
     m_path = copyPath(m_folder, m_base);
     if (!QFile::rename(copy.file.path, m_path))
         m_path = copy.file.path;
-    m_lock = std::move(copy.lock);
+    m_copy = std::make_unique<CopyInPlace>(std::move(copy.lock), m_path);
 }
 
 bool RecoveryCopies::makeFolder() const
@@ -137,7 +123,7 @@ bool RecoveryCopies::reserveName(const QString &documentName)
             lockFile(*file);
             m_base = base;
             m_path = file->fileName();
-            m_lock = std::move(file);
+            m_copy = std::make_unique<CopyInPlace>(std::move(file), m_path);
             return true;
         }
         if (!file->exists())
@@ -156,4 +142,17 @@ void RecoveryCopies::removeOldest() const
         }
     }
     removeRemains(m_folder);
+}
+
+void RecoveryCopies::removeFiles() const
+{
+    QFile::remove(m_path);
+    QFile::remove(originPath(m_folder, m_base));
+}
+
+void RecoveryCopies::forget()
+{
+    m_copy.reset();
+    m_base.clear();
+    m_path.clear();
 }

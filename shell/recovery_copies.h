@@ -20,6 +20,8 @@
 #include <optional>
 #include <vector>
 
+class CopyInPlace;
+
 // A copy that no running editor keeps. Nobody else is offered it as long as this lives.
 struct FoundCopy
 {
@@ -41,10 +43,14 @@ public:
 
     // The folder is made when the first copy is.
     explicit RecoveryCopies(QString folder = usualFolder());
+    ~RecoveryCopies();
+    RecoveryCopies(const RecoveryCopies &) = delete;
+    RecoveryCopies &operator=(const RecoveryCopies &) = delete;
 
     // Makes this the copy of the document in work: a new one, or in the place of the one that
     // is kept already. A new one drives the oldest out of the folder. If it can't be written, the
-    // copy stays as it was.
+    // copy stays as it was. A large one is in its place only after a while, and those of changes
+    // that come faster may be passed over, but never the newest.
     void keep(const QString &documentName, const RecoveryOrigin &origin,
               const UnpackedFile &content);
     // The changes are saved, or nobody wants them: removes the document's copy.
@@ -65,9 +71,11 @@ private:
     bool makeFolder() const;
     bool reserveName(const QString &documentName);
     void removeOldest() const;
+    void removeFiles() const;
+    void forget();
 
     const QString m_folder;
     QString m_base; // of the copy kept now; empty if there is none
     QString m_path;
-    std::unique_ptr<QFile> m_lock;
+    std::unique_ptr<CopyInPlace> m_copy;
 };

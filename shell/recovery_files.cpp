@@ -2,7 +2,6 @@
 
 #include "document/gzip_member.h"
 #include "gamedata/escaped_utf8.h"
-#include "shell/file_in_writing.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -71,14 +70,6 @@ QString forFileName(const QString &documentName)
 QString inFolder(const QString &folder, const QString &base, const char *ending)
 {
     return folder + QLatin1Char('/') + base + QLatin1String(ending);
-}
-
-bool takesLong(const UnpackedFile &content)
-{
-    const qint64 written =
-        std::accumulate(content.rest.begin(), content.rest.end(), qint64(0),
-                        [](qint64 sum, const QByteArray &piece) { return sum + piece.size(); });
-    return content.head.size() > packedAtOnce || written > writtenAtOnce;
 }
 
 bool writeAtOnce(QFile &file, const UnpackedFile &content)
@@ -177,18 +168,28 @@ std::unique_ptr<QFile> lockedFile(const QString &path)
     return file;
 }
 
-std::unique_ptr<QFile> replaceFile(const QString &path, const UnpackedFile &content)
+bool takesLong(const UnpackedFile &content)
+{
+    const qint64 written =
+        std::accumulate(content.rest.begin(), content.rest.end(), qint64(0),
+                        [](qint64 sum, const QByteArray &piece) { return sum + piece.size(); });
+    return content.head.size() > packedAtOnce || written > writtenAtOnce;
+}
+
+std::unique_ptr<QTemporaryFile> fileBeside(const QString &path)
 {
     auto file = std::make_unique<QTemporaryFile>(QFileInfo(path).path() + QLatin1Char('/') +
                                                  QLatin1String(unfinishedName));
     if (!file->open())
         return nullptr;
     lockFile(*file); // a system without locks lets nobody else lock it either
-    if (takesLong(content)) {
-        if (auto written = FileInWriting::start(*file, path, content))
-            return written;
-    }
-    if (!writeAtOnce(*file, content))
+    return file;
+}
+
+std::unique_ptr<QFile> replaceFile(const QString &path, const UnpackedFile &content)
+{
+    auto file = fileBeside(path);
+    if (!file || !writeAtOnce(*file, content))
         return nullptr;
     std::error_code failure;
     std::filesystem::rename(QFile::encodeName(file->fileName()).toStdString(),

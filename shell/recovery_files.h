@@ -14,6 +14,7 @@
 #include <memory>
 
 class QFile;
+class QTemporaryFile;
 struct UnpackedFile;
 
 // The file of the document that a copy is of, and its state when the document was read from it or
@@ -50,6 +51,11 @@ bool lockFile(const QFile &file);
 // The copy of that path, open and locked; null if another editor keeps it.
 std::unique_ptr<QFile> lockedFile(const QString &path);
 
+// Whether to pack and write this would make anybody wait.
+bool takesLong(const UnpackedFile &content);
+// A new file beside that one, open and locked, which goes if it doesn't take a place. Null if none
+// can be made.
+std::unique_ptr<QTemporaryFile> fileBeside(const QString &path);
 // Puts the content in the place of a file, which is the old one or the new one whatever happens to
 // the process. Answers the new file, open and locked; null if the old one stays. Doesn't wait for
 // the disk: a copy is for an end of the editor, and costs time at every change of the document.

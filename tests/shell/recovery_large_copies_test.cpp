@@ -1,28 +1,21 @@
 // Recovery copies that are written by processes of their own: those of large campaigns.
+#include "tests/shell/killed_editor.h"
 #include "tests/shell/recovery_folder.h"
 #include "tests/support/disk_faults.h"
 #include "tests/support/processor_time.h"
 
 #include <QDeadlineTimer>
 
-#include <csignal>
-
 #include <dlfcn.h>
 #include <sched.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
 
 // A handle is moved to its file's start only once there is something in the file.
 bool movesLate = false;
-
-// More than is written while one waits.
-QByteArray large(char byte)
-{
-    return QByteArray(40 * 1024 * 1024, byte);
-}
 
 // Noise that takes its time to be packed.
 QByteArray largeHead(int megabytes = 3)
@@ -33,6 +26,26 @@ QByteArray largeHead(int megabytes = 3)
         byte = char((state = state * 1664525u + 1013904223u) >> 24);
     return bytes;
 }
+
+// Leaves room for so many more handles while it lives.
+class HandleLimit
+{
+public:
+    explicit HandleLimit(int more)
+    {
+        getrlimit(RLIMIT_NOFILE, &m_before);
+        const int next = dup(0); // the lowest that is free
+        close(next);
+        const rlimit now{rlim_t(next + more), m_before.rlim_max};
+        setrlimit(RLIMIT_NOFILE, &now);
+    }
+    ~HandleLimit() { setrlimit(RLIMIT_NOFILE, &m_before); }
+    HandleLimit(const HandleLimit &) = delete;
+    HandleLimit &operator=(const HandleLimit &) = delete;
+
+private:
+    rlimit m_before = {};
+};
 
 const QFile::Permissions ownersOnly =
     QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
@@ -73,6 +86,8 @@ private slots:
     void failedLargeCopyKeepsTheOldOne();
     void failedFirstLargeCopyLeavesNothing();
     void nobodyIsOfferedACopyThatIsBeingWritten();
+    void copyIsKeptAndLockedWhereHandlesRunOut_data();
+    void copyIsKeptAndLockedWhereHandlesRunOut();
 };
 
 void RecoveryLargeCopiesTest::piecesAreWrittenInOrder()
@@ -141,18 +156,12 @@ void RecoveryLargeCopiesTest::largeCopyIsWrittenWhateverBecomesOfTheEditor()
     QFETCH(QByteArray, head);
     QFETCH(QByteArray, piece);
     const QByteArray bytes = (head.isEmpty() ? QByteArray() : packGzipMember(head)) + piece;
-    const pid_t editor = fork();
-    if (editor == 0) {
-        RecoveryCopies copies(folder);
-        copies.keep("harbour", untitled, {head, {piece}});
-        raise(SIGKILL);
-        _exit(1);
-    }
-    int status = 0;
-    QCOMPARE(waitpid(editor, &status, 0), editor);
-    QVERIFY(WIFSIGNALED(status));
+    QVERIFY(runKilledEditor([&] {
+        auto *copies = new RecoveryCopies(folder);
+        copies->keep("harbour", untitled, {head, {piece}});
+    }));
     const RecoveryCopies copies(folder);
-    QTRY_VERIFY_WITH_TIMEOUT(copies.newestToOffer(), 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(copies.newestToOffer(), patience);
     QCOMPARE(files().size(), 1);
     QVERIFY(contents(path(files()[0])) == bytes);
 }
@@ -219,8 +228,34 @@ void RecoveryLargeCopiesTest::nobodyIsOfferedACopyThatIsBeingWritten()
     copies.keep("harbour", untitled, {{}, {"short"}});
     copies.keep("harbour", untitled, {{}, {large('x')}});
     QVERIFY(!RecoveryCopies(folder).newestToOffer());
-    QTRY_COMPARE_WITH_TIMEOUT(QFileInfo(path(files()[0])).size(), qint64(large('x').size()), 60000);
+    QTRY_COMPARE_WITH_TIMEOUT(QFileInfo(path(files()[0])).size(), qint64(large('x').size()),
+                              patience);
     QVERIFY(!RecoveryCopies(folder).newestToOffer());
+}
+
+void RecoveryLargeCopiesTest::copyIsKeptAndLockedWhereHandlesRunOut_data()
+{
+    QTest::addColumn<int>("handles");
+    for (int handles = 0; handles < 6; ++handles)
+        QTest::addRow("%d more", handles) << handles;
+}
+
+// Or none is kept where there is no handle for it.
+void RecoveryLargeCopiesTest::copyIsKeptAndLockedWhereHandlesRunOut()
+{
+    QFETCH(int, handles);
+    RecoveryCopies copies(folder);
+    {
+        const HandleLimit limit(handles);
+        copies.keep("harbour", untitled, {{}, {large('x')}});
+    }
+    const bool kept = handles > 1; // for its name, and for the file beside it
+    QCOMPARE(!files().isEmpty(), kept);
+    QTRY_VERIFY_WITH_TIMEOUT(!kept || contents(path(files()[0])) == large('x'), patience);
+    QVERIFY(!RecoveryCopies(folder).newestToOffer());
+    copies.leave();
+    QCOMPARE(files().size(), int(kept));
+    QCOMPARE(bool(copies.newestToOffer()), kept);
 }
 
 QTEST_GUILESS_MAIN(RecoveryLargeCopiesTest)
