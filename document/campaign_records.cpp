@@ -27,25 +27,9 @@
 
 namespace {
 
-struct CrossoverBits
-{
-    unsigned int creatures;
-    unsigned int artifacts;
-};
-
-CrossoverBits crossoverBits(quint32 version)
-{
-    if (version == 5)
-        return {145, 129};
-    if (version == 6)
-        return {145, 144};
-    return {EditorData::nCreatures, EditorData::nArtifacts};
-}
-
 void readStories(QDataStream &stream, quint32 version, ScenarioData::Prologues &stories)
 {
-    const size_t count = version >= newestCampaignVersion ? stories.size() : 1;
-    for (size_t i = 0; i < count; ++i)
+    for (size_t i = 0; i < storyCount(version); ++i)
         ReadPrologueEpilogue(stream, stories[i]);
 }
 
@@ -97,6 +81,21 @@ void ScenarioData::WriteToStream(QDataStream &stream, CampaignData *campaign)
             chainPrerequisites(*this, previousWithMap(*campaign, this), context.scenarioCount);
     }
     writeScenarioRecord(stream, *this, context);
+}
+
+CrossoverBits crossoverBits(quint32 version)
+{
+    if (version == 5)
+        return {145, 129};
+    if (version == 6)
+        return {145, 144};
+    return {EditorData::nCreatures, EditorData::nArtifacts};
+}
+
+unsigned int storyCount(quint32 version)
+{
+    return version >= newestCampaignVersion ? unsigned(std::tuple_size_v<ScenarioData::Prologues>)
+                                            : 1;
 }
 
 unsigned int recordCount(const CampaignData &campaign)

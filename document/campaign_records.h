@@ -12,6 +12,18 @@ struct RecordContext
     quint32 mapSize = 0;
 };
 
+// Bits of the crossover arrays in a file of this version; the newest has as many as the game's
+// tables.
+struct CrossoverBits
+{
+    unsigned int creatures = 0;
+    unsigned int artifacts = 0;
+};
+CrossoverBits crossoverBits(quint32 version);
+
+// Prologues of a record in a file of this version, and as many epilogues.
+unsigned int storyCount(quint32 version);
+
 // How many records a campaign's file gets: as many as the reader will look for.
 unsigned int recordCount(const CampaignData &campaign);
 

@@ -1,9 +1,11 @@
-// The layout of header and records stands in document/campaign_reader.cpp and
+// A second walk through a campaign's header and records, byte by byte, for what the reader passes
+// over and what saving would change. Their layout stands in document/campaign_reader.cpp and
 // document/campaign_records.cpp.
 #include "document/check/record_check.h"
 
 #include "document/campaign_data.h"
 #include "document/campaign_primitives.h"
+#include "document/campaign_records.h"
 #include "document/inflating_device.h"
 #include "gamedata/editor_data.h"
 #include "gamedata/limits.h"
@@ -130,13 +132,10 @@ private:
         skipText();
         readStories("prologue");
         readStories("epilogue");
-        readBits(5, 5, "things that heroes keep");
-        const bool newest = m_version == newestCampaignVersion;
-        readBits(newest ? EditorData::nCreatures : 145, EditorData::nCreatures, "creatures");
-        readBits(newest           ? EditorData::nArtifacts
-                 : m_version == 5 ? 129
-                                  : 144,
-                 EditorData::nArtifacts, "artifacts");
+        readBits(heroKeepsBits, heroKeepsBits, "things that heroes keep");
+        const CrossoverBits bits = crossoverBits(m_version);
+        readBits(bits.creatures, EditorData::nCreatures, "creatures");
+        readBits(bits.artifacts, EditorData::nArtifacts, "artifacts");
         readOptions();
     }
 
@@ -157,8 +156,7 @@ private:
 
     void readStories(const char *name)
     {
-        const int count = m_version == newestCampaignVersion ? 3 : 1;
-        for (int i = 1; i <= count; ++i) {
+        for (unsigned int i = 1; i <= storyCount(m_version); ++i) {
             const quint8 present = readByte();
             if (present > 1) {
                 find(QStringLiteral("%1 %2 has the mark %3, it reads as absent")
