@@ -1,6 +1,7 @@
 // Stands in for a fuzzer: gives a target the files named on the command line, and those in the
 // folders named there. Each is given whole; those that have a name, and not a hash for one, are
-// also cut off at every length, unless --whole stands first.
+// also cut off at every length, unless --whole stands first. An input that takes too much memory
+// ends the process for want of it.
 #include <algorithm>
 #include <cctype>
 #include <cstdint>
@@ -12,6 +13,9 @@
 #include <memory>
 #include <vector>
 
+#include <sys/resource.h>
+#include <unistd.h>
+
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size);
 
 namespace {
@@ -19,6 +23,7 @@ namespace {
 using Path = std::filesystem::path;
 
 constexpr size_t hashLength = 40;
+constexpr rlim_t bytesAnInput = rlim_t(256) << 20;
 
 std::vector<Path> filesOf(const Path &path)
 {
@@ -50,6 +55,28 @@ void runCutTo(const std::vector<char> &bytes, size_t length)
     LLVMFuzzerTestOneInput(data.get(), length);
 }
 
+// What the process takes of its addresses, 0 if the system doesn't say.
+rlim_t addressesTaken()
+{
+    rlim_t pages = 0;
+    std::ifstream("/proc/self/statm") >> pages;
+    return pages * rlim_t(sysconf(_SC_PAGESIZE));
+}
+
+// All inputs together may take so much beyond what an empty one has made. The sanitizers take
+// nearly all addresses there are, and have limits of their own.
+bool limitMemory()
+{
+#ifdef CMPED_INSTRUMENTED
+    return true;
+#else
+    runCutTo({}, 0);
+    const rlim_t taken = addressesTaken();
+    const rlimit limit = {taken + bytesAnInput, taken + bytesAnInput};
+    return taken > 0 && setrlimit(RLIMIT_AS, &limit) == 0;
+#endif
+}
+
 bool replay(const Path &path, bool whole)
 {
     std::ifstream file(path, std::ios::binary);
@@ -69,6 +96,10 @@ bool replay(const Path &path, bool whole)
 int main(int argc, char *argv[])
 {
     const bool whole = argc > 1 && std::strcmp(argv[1], "--whole") == 0;
+    if (!limitMemory()) {
+        std::fprintf(stderr, "The memory can't be limited.\n");
+        return 1;
+    }
     size_t count = 0;
     for (int i = whole ? 2 : 1; i < argc; ++i) {
         for (const Path &file : filesOf(argv[i])) {
