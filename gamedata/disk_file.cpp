@@ -59,6 +59,12 @@ int DiskFile::resize(off_t size) const
     return errorOf([&] { return ftruncate(m_handle, size); });
 }
 
+int DiskFile::setTimes(const struct stat &status) const
+{
+    const timespec times[] = {status.st_atim, status.st_mtim};
+    return errorOf([&] { return futimens(m_handle, times); });
+}
+
 int DiskFile::sync() const
 {
     const int code = errorOf([&] { return fsync(m_handle); });

@@ -50,6 +50,8 @@ public:
     // All pieces in order, from the file's start.
     int writeFromStart(const std::vector<QByteArray> &pieces) const;
     int resize(off_t size) const;
+    // When it was read and written last, as in a status. Only its owner may say that.
+    int setTimes(const struct stat &status) const;
     // Waits until all is on the disk, as far as its file system can promise that.
     int sync() const;
 

@@ -10,6 +10,8 @@
 #include <memory>
 
 #include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -83,6 +85,11 @@ private slots:
     void writesInPlaceWhereReplacingIsForbidden_data();
     void writesInPlaceWhereReplacingIsForbidden();
     void putsBackWhenTheFileCantBeCut();
+    void putsTheTimeBackWithTheBytes();
+    void tellsWhetherAnythingWasOpened_data();
+    void tellsWhetherAnythingWasOpened();
+    void handsOutTheStatusOfWhatItWrote_data();
+    void handsOutTheStatusOfWhatItWrote();
 };
 
 void SafeSaveFaultTest::cleanup()
@@ -255,6 +262,78 @@ void SafeSaveFaultTest::putsBackWhenTheFileCantBeCut()
     QCOMPARE(truncateFault, 0);
     QCOMPARE(result.error, QStringLiteral("Input/output error"));
     QCOMPARE(bytesOf(dir.filePath(name)), QByteArray("old contents"));
+}
+
+// Whoever looks whether the file has changed sees none.
+void SafeSaveFaultTest::putsTheTimeBackWithTheBytes()
+{
+    const QTemporaryDir dir;
+    QVERIFY(makeFile(dir.filePath(name), "old contents"));
+    const timespec time{1000000000, 123456789};
+    const timespec times[] = {time, time};
+    const QByteArray path = QFile::encodeName(dir.filePath(name));
+    QCOMPARE(utimensat(AT_FDCWD, path.constData(), times, 0), 0);
+    truncateFault = EIO; // once
+    auto closed = closedFolder(dir.path(), true);
+    QVERIFY(!saveFileSafely(dir.filePath(name), {"new"}).ok);
+    closed.reset();
+    struct stat status = {};
+    QCOMPARE(stat(path.constData(), &status), 0);
+    QCOMPARE(status.st_mtim.tv_sec, time.tv_sec);
+    QCOMPARE(status.st_mtim.tv_nsec, time.tv_nsec);
+}
+
+void SafeSaveFaultTest::tellsWhetherAnythingWasOpened_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<bool>("opened");
+    QTest::newRow("no folder") << "no/file" << false;
+    QTest::newRow("a folder") << "folder" << false;
+    QTest::newRow("a full disk") << "new" << true;
+    QTest::newRow("a full disk, replacing") << "old" << true;
+    QTest::newRow("a full disk behind a link") << "link" << true;
+}
+
+void SafeSaveFaultTest::tellsWhetherAnythingWasOpened()
+{
+    QFETCH(QString, file);
+    QFETCH(bool, opened);
+    const QTemporaryDir dir;
+    QVERIFY(QDir(dir.path()).mkdir("folder") && makeFile(dir.filePath("old"), "old"));
+    QVERIFY(QFile::link("nowhere", dir.filePath("link")));
+    const FileSizeLimit limited{1};
+    const SaveResult result = saveFileSafely(dir.filePath(file), {"new"});
+    QVERIFY(!result.ok);
+    QCOMPARE(result.opened, opened);
+    QCOMPARE(filesOf(dir.path()), QStringList({"link", "old"}));
+}
+
+void SafeSaveFaultTest::handsOutTheStatusOfWhatItWrote_data()
+{
+    QTest::addColumn<bool>("inPlace");
+    QTest::addColumn<bool>("exists");
+    QTest::newRow("new") << false << false;
+    QTest::newRow("replaced") << false << true;
+    QTest::newRow("in place") << true << true;
+}
+
+void SafeSaveFaultTest::handsOutTheStatusOfWhatItWrote()
+{
+    QFETCH(bool, inPlace);
+    QFETCH(bool, exists);
+    const QTemporaryDir dir;
+    QVERIFY(!exists || makeFile(dir.filePath(name), "old contents"));
+    auto closed = closedFolder(dir.path(), inPlace);
+    const SaveResult result = saveFileSafely(dir.filePath(name), {"new"});
+    closed.reset();
+    QVERIFY(result.ok && result.opened);
+    struct stat now = {};
+    QCOMPARE(stat(QFile::encodeName(dir.filePath(name)).constData(), &now), 0);
+    QCOMPARE(result.written.st_dev, now.st_dev);
+    QCOMPARE(result.written.st_ino, now.st_ino);
+    QCOMPARE(result.written.st_size, now.st_size);
+    QCOMPARE(result.written.st_mtim.tv_sec, now.st_mtim.tv_sec);
+    QCOMPARE(result.written.st_mtim.tv_nsec, now.st_mtim.tv_nsec);
 }
 
 QTEST_GUILESS_MAIN(SafeSaveFaultTest)

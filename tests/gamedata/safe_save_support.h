@@ -86,3 +86,25 @@ private:
     const QByteArray m_folder;
     const bool m_root = geteuid() == 0;
 };
+
+// Nobody gets at the folder while this lives, nor is told what is in it. Root is nobody meanwhile.
+class FolderOutOfReach
+{
+public:
+    explicit FolderOutOfReach(const QString &folder) : m_folder(QFile::encodeName(folder))
+    {
+        if (chmod(m_folder.constData(), 0) != 0 || (m_root && seteuid(65534) != 0))
+            qFatal("The folder can't be closed");
+    }
+    ~FolderOutOfReach()
+    {
+        if ((m_root && seteuid(0) != 0) || chmod(m_folder.constData(), 0755) != 0)
+            qFatal("The folder can't be opened again");
+    }
+    FolderOutOfReach(const FolderOutOfReach &) = delete;
+    FolderOutOfReach &operator=(const FolderOutOfReach &) = delete;
+
+private:
+    const QByteArray m_folder;
+    const bool m_root = geteuid() == 0;
+};
