@@ -14,7 +14,7 @@ std::optional<QString> openToRead(QFile &file, QIODevice::OpenMode mode)
     const bool there = stat(QFile::encodeName(file.fileName()).constData(), &now) == 0;
     // Of a folder the file itself tells.
     if (there && !S_ISREG(now.st_mode) && !S_ISDIR(now.st_mode))
-        return QStringLiteral("Not a regular file");
+        return notARegularFile();
     if (!file.open(mode))
         return file.errorString();
     return {};

@@ -321,6 +321,10 @@ It lacks: %2</translation>
 %2.</translation>
     </message>
     <message>
+        <source>Not a regular file</source>
+        <translation>Not a regular file</translation>
+    </message>
+    <message>
         <source>Save changes to %1?</source>
         <translation>Save changes to %1?</translation>
     </message>

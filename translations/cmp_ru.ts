@@ -321,6 +321,10 @@ It lacks: %2</source>
 %2.</translation>
     </message>
     <message>
+        <source>Not a regular file</source>
+        <translation>Это не обычный файл</translation>
+    </message>
+    <message>
         <source>Save changes to %1?</source>
         <translation>Сохранить изменения в %1?</translation>
     </message>

@@ -1,6 +1,9 @@
 // A pipe in the place of a file: nobody may wait at it.
 #include "tests/shell/exchange_window.h"
+#include "tests/support/child_process.h"
 #include "tests/support/idle_pipe.h"
+
+#include <QTranslator>
 
 class MainWindowPipesTest : public QObject, private ExchangeWindow
 {
@@ -13,6 +16,7 @@ private slots:
     void isNoCampaign();
     void isNoFileOfTexts();
     void isNoMap();
+    void isToldInRussian();
 };
 
 namespace {
@@ -59,6 +63,25 @@ void MainWindowPipesTest::isNoMap()
     QVERIFY(!pipe.wasOpened());
     QVERIFY(!EditorData::info.modified);
     QVERIFY(savedByTheWindow().scenarios[0].compressedMap == mapNamed("Ironmoors"));
+}
+
+void MainWindowPipesTest::isToldInRussian()
+{
+    QTranslator russian;
+    QVERIFY(russian.load(builtProgram("Ravn_Data/cmp_ru.qm")));
+    const IdlePipe pipe(path("pipe.e3c"));
+    QVERIFY(pipe.isMade());
+    load();
+    QCoreApplication::installTranslator(&russian);
+    const QString why = QString::fromUtf8(":\nЭто не обычный файл.");
+    for (const char *told : {"Не удаётся прочитать файл ", "Не удаётся записать файл "}) {
+        const QString text = QString::fromUtf8(told) + path("pipe.e3c") + why;
+        NextDialog box(withoutHourglass({QString::fromUtf8("Ошибка"), text, QMessageBox::Warning}));
+        if (text.contains(QString::fromUtf8("прочитать")))
+            window->loadFile(path("pipe.e3c"));
+        else
+            QVERIFY(!window->saveFile(path("pipe.e3c")));
+    }
 }
 
 QTEST_MAIN(MainWindowPipesTest)
