@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QStringList>
 
+#include <cerrno>
 #include <tuple>
 
 #include <sys/stat.h>
@@ -12,34 +13,38 @@ namespace {
 constexpr qint64 nanosecondsOfASecond = 1000000000;
 constexpr const char *absent = "absent";
 
-FileStamp stampFrom(const struct stat &status)
+constexpr FileStamp unknown{true, 0, 0, 0, 0};
+
+auto numbersOf(const FileStamp &stamp)
 {
-    return {true, status.st_dev, status.st_ino, status.st_size,
-            status.st_mtim.tv_sec * nanosecondsOfASecond + status.st_mtim.tv_nsec};
+    return std::tie(stamp.exists, stamp.device, stamp.inode, stamp.size, stamp.modified);
 }
 
 } // namespace
 
 bool operator==(const FileStamp &a, const FileStamp &b)
 {
-    return std::tie(a.exists, a.device, a.inode, a.size, a.modified) ==
-           std::tie(b.exists, b.device, b.inode, b.size, b.modified);
+    return numbersOf(a) == numbersOf(b) && numbersOf(a) != numbersOf(unknown);
 }
 
 FileStamp stampOf(const QString &path)
 {
     struct stat status = {};
-    if (stat(QFile::encodeName(path).constData(), &status) != 0 || !S_ISREG(status.st_mode))
-        return {};
-    return stampFrom(status);
+    if (stat(QFile::encodeName(path).constData(), &status) != 0)
+        return errno == ENOENT || errno == ENOTDIR ? FileStamp{} : unknown;
+    return S_ISREG(status.st_mode) ? stampOf(status) : FileStamp{};
 }
 
 FileStamp stampOf(const QFileDevice &file)
 {
     struct stat status = {};
-    if (fstat(file.handle(), &status) != 0)
-        return {};
-    return stampFrom(status);
+    return fstat(file.handle(), &status) == 0 ? stampOf(status) : unknown;
+}
+
+FileStamp stampOf(const struct stat &status)
+{
+    return {true, status.st_dev, status.st_ino, status.st_size,
+            status.st_mtim.tv_sec * nanosecondsOfASecond + status.st_mtim.tv_nsec};
 }
 
 QString textOf(const FileStamp &stamp)

@@ -7,7 +7,9 @@
 #include <optional>
 
 class QFileDevice;
+struct stat;
 
+// Of a file of which the system can't tell whether it is there, all is 0 but that it exists.
 struct FileStamp
 {
     bool exists = false; // all else is 0 if not
@@ -17,17 +19,19 @@ struct FileStamp
     qint64 modified = 0; // nanoseconds since 1970
 };
 
+// A stamp of which the system couldn't tell is like no other, not even like itself.
 bool operator==(const FileStamp &a, const FileStamp &b);
 inline bool operator!=(const FileStamp &a, const FileStamp &b)
 {
     return !(a == b);
 }
 
-// Of the file behind all links. One that can't be reached doesn't exist, and neither does what is
-// no regular file.
+// Of the file behind all links. What is no regular file doesn't exist.
 FileStamp stampOf(const QString &path);
 // Of an open file, whatever has become of its name.
 FileStamp stampOf(const QFileDevice &file);
+// Of a file whose status was taken before.
+FileStamp stampOf(const struct stat &status);
 
 // A stamp as a line of numbers, to be kept in a file.
 QString textOf(const FileStamp &stamp);

@@ -142,6 +142,7 @@ bool MainWindow::saveFile(const QString &path)
         return false;
     }
     setCurrentFile(path);
+    currentFileStamp = stampOf(result.written); // another program may have been at the file since
     EditorData::info.modified = false;
     recoveryCopies.remove();
     updateWindowTitle();

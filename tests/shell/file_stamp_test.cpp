@@ -1,6 +1,7 @@
 // Whether a file is still the one it was.
 #include "shell/file_stamp.h"
 
+#include "tests/gamedata/safe_save_support.h"
 #include "tests/support/file_contents.h"
 
 #include <QDir>
@@ -8,6 +9,7 @@
 #include <QTest>
 
 #include <functional>
+#include <optional>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -48,7 +50,10 @@ private slots:
     void otherThingsAreNoChange();
     void missingFilesAreAlike();
     void openFileIsStampedWhateverBecomesOfItsName();
+    void statusIsStampedAsItsFile();
     void linkIsStampedAsItsFile();
+    void whatCantBeToldIsLikeNothing_data();
+    void whatCantBeToldIsLikeNothing();
     void stampsComeBackFromText();
     void otherTextIsNoStamp_data();
     void otherTextIsNoStamp();
@@ -137,6 +142,44 @@ void FileStampTest::linkIsStampedAsItsFile()
 {
     QVERIFY(QFile::link(path, path + "-link"));
     QVERIFY(stampOf(path + "-link") == stampOf(path));
+}
+
+void FileStampTest::statusIsStampedAsItsFile()
+{
+    struct stat status = {};
+    QCOMPARE(stat(QFile::encodeName(path).constData(), &status), 0);
+    QVERIFY(stampOf(status) == stampOf(path));
+}
+
+void FileStampTest::whatCantBeToldIsLikeNothing_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("absent");
+    QTest::newRow("out of reach") << "file" << false;
+    QTest::newRow("links in a circle") << "circle" << false;
+    QTest::newRow("no such folder") << "no/file" << true;
+    QTest::newRow("a file in the folder's place") << "file/file" << true;
+}
+
+void FileStampTest::whatCantBeToldIsLikeNothing()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, absent);
+    QVERIFY(QFile::link("circle", folder->filePath("circle")));
+    const FileStamp reached = stampOf(path);
+    std::optional<FolderOutOfReach> closed;
+    if (name == "file")
+        closed.emplace(folder->path());
+    const FileStamp stamp = stampOf(folder->filePath(name));
+    const FileStamp again = stampOf(folder->filePath(name));
+    closed.reset();
+    QCOMPARE(stamp.exists, !absent);
+    QCOMPARE(stamp == again, absent);
+    QVERIFY(stamp != reached);
+    const auto kept = stampFrom(textOf(stamp));
+    QVERIFY(kept);
+    QCOMPARE(*kept == stamp, absent);
+    QCOMPARE(kept->exists, !absent);
 }
 
 void FileStampTest::stampsComeBackFromText()

@@ -1,15 +1,38 @@
 // Saving over a file that another program has changed since it was opened or saved here.
+#include "tests/gamedata/safe_save_support.h"
 #include "tests/shell/exchange_window.h"
 #include "tests/support/child_process.h"
+#include "tests/support/disk_faults.h"
 
 #include <QCloseEvent>
 #include <QPushButton>
 #include <QTranslator>
 
 #include <functional>
+#include <utility>
 
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+
+namespace {
+
+// What another program does at once when a save has put its file in place; nothing if empty.
+std::function<void()> whenReplaced;
+
+} // namespace
+
+// Stands before the C library's.
+extern "C" __attribute__((visibility("default"))) int rename(const char *from,
+                                                             const char *to) noexcept
+{
+    using Function = int (*)(const char *, const char *);
+    static const auto real = reinterpret_cast<Function>(dlsym(RTLD_NEXT, "rename"));
+    const int result = real(from, to);
+    if (const auto then = std::exchange(whenReplaced, nullptr))
+        then();
+    return result;
+}
 
 namespace {
 
@@ -68,6 +91,9 @@ private slots:
     void unchangedFileIsNotAskedAbout();
     void ownSavesAreNotAskedAbout();
     void changeBetweenTwoSavesIsAskedAbout();
+    void changeRightBehindASaveIsAskedAbout();
+    void saveThatFailedInPlaceIsNotAskedAbout();
+    void fileOutOfReachIsAskedAbout();
     void saveAsAsksNothingOfItsOwn();
     void noCountsAsCancelWhenTheWindowIsClosedOrAnotherFileLoaded();
     void folderInTheFilesPlaceIsToldAsAFault();
@@ -204,6 +230,51 @@ void MainWindowOverwriteTest::changeBetweenTwoSavesIsAskedAbout()
     const NextDialog question(boxAnswer(overwriteQuestion(QMessageBox::No)));
     trigger("actionSave");
     QCOMPARE(contents(file()), QByteArray("other"));
+}
+
+void MainWindowOverwriteTest::changeRightBehindASaveIsAskedAbout()
+{
+    whenReplaced = [this] { QVERIFY(write(file(), "other")); };
+    trigger("actionSave");
+    QVERIFY(!whenReplaced);
+    QVERIFY(!EditorData::info.modified);
+    EditorData::info.modified = true;
+    const NextDialog question(boxAnswer(overwriteQuestion(QMessageBox::No)));
+    trigger("actionSave");
+    QCOMPARE(contents(file()), QByteArray("other"));
+}
+
+void MainWindowOverwriteTest::saveThatFailedInPlaceIsNotAskedAbout()
+{
+    const QByteArray before = contents(file());
+    QVERIFY(write(file(), before) && moveTime(file()));
+    EditorData::info.modified = false;
+    load();
+    EditorData::info.modified = true;
+    const FolderWithoutRight closed(folder->path());
+    {
+        const FileSizeLimit limit(100);
+        const NextDialog told(
+            boxAnswer(warning("Cannot write file " + file() + ":\nFile too large.")));
+        trigger("actionSave");
+        QVERIFY(told.came());
+    }
+    QCOMPARE(contents(file()), before);
+    trigger("actionSave"); // a question that nobody answers would stay for ever
+    QVERIFY(!EditorData::info.modified);
+}
+
+void MainWindowOverwriteTest::fileOutOfReachIsAskedAbout()
+{
+    const QByteArray before = contents(file());
+    {
+        const FolderOutOfReach closed(folder->path());
+        const NextDialog question(boxAnswer(overwriteQuestion(QMessageBox::No)));
+        trigger("actionSave");
+        QVERIFY(question.came());
+    }
+    QVERIFY(EditorData::info.modified);
+    QCOMPARE(contents(file()), before);
 }
 
 // The file dialog asks before it takes the name of a file that is there.
