@@ -2,6 +2,7 @@
 
 #include "document/campaign_data.h"
 #include "document/map_file_name.h"
+#include "document/map_place.h"
 #include "gamedata/file_name.h"
 #include "gamedata/readable_file.h"
 #include "gamedata/report.h"
@@ -39,20 +40,24 @@ bool isSameFile(const QString &path, const QString &other)
 // A scenario that names a map and has none of its bytes, as one read from a torn file, leaves
 // alone what the author has under that name.
 void exportMapsTo(const QString &folder, const CampaignData &campaign, const QString &campaignFile,
-                  const TellMapFailure &tell)
+                  const TellMapFailure &tell, Unopened unopened)
 {
     SafeSaves saves;
     for (const ScenarioData &scenario : campaign.scenarios) {
         const QString name = bareMapFileName(scenario.mapFileName);
         if (name.isEmpty() || scenario.compressedMap.isEmpty())
             continue;
-        const QString path = pathOf(folder, name);
-        const SaveResult result = isSameFile(path, campaignFile)
-                                      ? SaveResult{false, qt_error_string(EEXIST)}
-                                      : saves.save(path, {scenario.compressedMap});
-        if (!result.ok) {
+        MapPlace place = placeToWriteMap(folder, name, scenario.compressedMap);
+        if (place.refusal == 0 && isSameFile(place.path, campaignFile))
+            place.refusal = EEXIST;
+        const SaveResult result = place.refusal != 0
+                                      ? SaveResult{false, qt_error_string(place.refusal)}
+                                      : saves.save(place.path, {scenario.compressedMap});
+        const bool isPassedOver =
+            place.refusal == 0 && !result.opened && unopened == Unopened::PassedOver;
+        if (!result.ok && !isPassedOver) {
             tell(mainWindowText(QT_TRANSLATE_NOOP("MainWindow", "Cannot write file %1:\n%2."))
-                     .arg(path, result.error));
+                     .arg(pathOf(folder, name), result.error));
         }
     }
 }
@@ -66,8 +71,11 @@ MapRefresh refreshMapsFrom(const QString &folder, CampaignData &campaign,
             continue;
         QFile file(pathOf(folder, name));
         qDebug() << file.fileName();
-        const std::optional<QString> failure = openToRead(file);
-        if (failure && !(namesOneFile(file.fileName()) && file.exists()))
+        const MapPlace place = placeOfMap(folder, name);
+        const std::optional<QString> failure =
+            place.refusal == 0 ? openToRead(file) : qt_error_string(place.refusal);
+        const bool exists = namesOneFile(file.fileName()) && QFile::exists(file.fileName());
+        if (failure && place.refusal == 0 && !exists)
             return {false, name};
         const int result = failure ? mapUnreadable : scenario.ReadMapFromFile(&file);
         if (result == mapRefused) {

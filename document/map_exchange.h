@@ -14,11 +14,19 @@ class CampaignData;
 // Tells what went wrong with one map, in the words of the main window.
 using TellMapFailure = std::function<void(const QString &text)>;
 
-// Writes the maps' bytes as they were imported, over files that are there, but never over
-// `campaignFile`, the file of the campaign itself (empty if it has none): a stranger's campaign may
-// name a map so. One that can't be written is told, and the next one follows.
+// Files under whose names nothing can be opened for writing.
+enum class Unopened
+{
+    Told,
+    PassedOver
+};
+
+// Writes the maps' bytes as they were imported, over maps that are there. Never over
+// `campaignFile`, the file of the campaign itself (empty if it has none), nor over what is no map,
+// nor outside the folder (document/map_place): a stranger's campaign may name a map so. One that
+// can't be written is told, and the next one follows.
 void exportMapsTo(const QString &folder, const CampaignData &campaign, const QString &campaignFile,
-                  const TellMapFailure &tell);
+                  const TellMapFailure &tell, Unopened unopened = Unopened::Told);
 
 struct MapRefresh
 {
@@ -27,7 +35,7 @@ struct MapRefresh
 };
 
 // Imports each scenario's map from its file, in order. A map that is refused is told and stays as
-// it was. A file that isn't there or can't be read, which is told, ends it; the maps before it are
-// refreshed then and those behind it aren't.
+// it was. A file that isn't there, or one that can't be read or is a link out of the folder, which
+// is told, ends it; the maps before it are refreshed then and those behind it aren't.
 MapRefresh refreshMapsFrom(const QString &folder, CampaignData &campaign,
                            const TellMapFailure &tell);

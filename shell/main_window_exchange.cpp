@@ -20,6 +20,8 @@
 
 namespace {
 
+constexpr int enoughToTell = 10000; // characters; a box shows fewer
+
 QString textFilter()
 {
     return MainWindow::tr("Text files (*.txt);;All Files (*)");
@@ -72,11 +74,20 @@ void MainWindow::showCmpTextReadingError(const QString &path, QFile &file)
          tr("Cannot read file %1 - incorrect campaign text:\n%2.").arg(path, file.errorString()));
 }
 
+// Authors know this command as one that says nothing where a file can't be opened. All else stands
+// in one box: a stranger's campaign may have thousands of maps that aren't written.
 void MainWindow::exportMaps()
 {
-    const WaitCursor cursor;
-    // Authors know this command as one that says nothing.
-    exportMapsTo(documentFolder(), campaign, currentFile, [](const QString &) {});
+    WaitCursor cursor;
+    QString told;
+    const auto add = [&](const QString &text) {
+        if (told.size() < enoughToTell)
+            told += told.isEmpty() ? text : QLatin1String("\n\n") + text;
+    };
+    exportMapsTo(documentFolder(), campaign, currentFile, add, Unopened::PassedOver);
+    cursor.restore();
+    if (!told.isEmpty())
+        warn(this, tr("Error"), told);
 }
 
 void MainWindow::refreshMaps()

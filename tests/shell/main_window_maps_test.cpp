@@ -1,6 +1,7 @@
 // The commands that write the maps of the window's campaign beside it and read them again.
 #include "scenario/scenario_info.h"
 #include "tests/shell/exchange_window.h"
+#include "tests/support/disk_faults.h"
 
 #include <QDialogButtonBox>
 #include <QPushButton>
@@ -14,15 +15,25 @@ private slots:
     void cleanup();
 
     void exportMapsWritesBesideTheCampaign();
-    void exportMapsSaysNothing();
+    void exportMapsSaysNothingOfWhatDoesntOpen();
     void exportMapsLeavesTheCampaignsFileAlone();
+    void exportMapsTellsAllThatIsRefusedAtOnce();
+    void exportMapsOfThousandsTellsInOneBox();
+    void exportMapsOntoAFullDiskWarns();
     void exportMapsOfAnUntitledCampaignUsesTheCurrentFolder();
     void refreshMapsReadsBesideTheCampaign();
     void refreshMapsEndsAtAMissingFile_data();
     void refreshMapsEndsAtAMissingFile();
     void refreshMapsWarnsOfARefusedMapAndGoesOn();
     void refreshMapsWarnsOfAnUnreadableFileAndEnds();
+    void refreshMapsReadsNothingOutside();
     void refreshMapsOfNoMapsCountsAsAChange();
+
+private:
+    ExpectedBox refusal(const QString &name, const QString &reason) const
+    {
+        return warning("Cannot write file " + path(name) + ":\n" + reason + '.');
+    }
 };
 
 void MainWindowMapsTest::cleanup()
@@ -44,7 +55,7 @@ void MainWindowMapsTest::exportMapsWritesBesideTheCampaign()
     QCOMPARE(usedFolderBytes(), QByteArray());
 }
 
-void MainWindowMapsTest::exportMapsSaysNothing()
+void MainWindowMapsTest::exportMapsSaysNothingOfWhatDoesntOpen()
 {
     load();
     QVERIFY(QDir(folder->path()).mkdir("one.e3m"));
@@ -60,10 +71,60 @@ void MainWindowMapsTest::exportMapsLeavesTheCampaignsFileAlone()
     save(campaign);
     load();
     const QByteArray before = contents(path("home.e3c"));
+    NextDialog box(withoutHourglass(refusal("home.e3c", "File exists")));
     trigger("actionExport_Scenario_Maps");
-    QVERIFY(!QApplication::activeModalWidget());
     QCOMPARE(contents(path("home.e3c")), before);
     QCOMPARE(contents(path("three.e3m")), mapNamed("Stonegate"));
+}
+
+void MainWindowMapsTest::exportMapsTellsAllThatIsRefusedAtOnce()
+{
+    CampaignData campaign = campaignWithMaps();
+    campaign.scenarios[0].mapFileName = ".profile";
+    save(campaign);
+    load();
+    const QTemporaryDir outside;
+    const QString target = samples::writeFile(outside.filePath("secret"), "the author's");
+    QVERIFY(QFile::link(target, path("three.e3m")));
+    const QString told = refusal(".profile", "Operation not permitted").text + "\n\n" +
+                         refusal("three.e3m", "Too many levels of symbolic links").text;
+    NextDialog box(withoutHourglass(warning(told)));
+    trigger("actionExport_Scenario_Maps");
+    QCOMPARE(contents(target), QByteArray("the author's"));
+    QVERIFY(!QFile::exists(path(".profile")));
+    QVERIFY(!EditorData::info.modified);
+}
+
+void MainWindowMapsTest::exportMapsOfThousandsTellsInOneBox()
+{
+    CampaignData campaign = campaignWithMaps();
+    const ScenarioData hidden = campaign.scenarios[0];
+    campaign.initDummyCampaign(24, false, 1, 3000);
+    for (ScenarioData &scenario : campaign.scenarios) {
+        scenario = hidden;
+        scenario.mapFileName = ".profile";
+    }
+    save(campaign);
+    load();
+    NextDialog box([](QWidget *widget) {
+        const QString told = qobject_cast<QMessageBox *>(widget)->text();
+        widget->close();
+        QVERIFY(told.startsWith("Cannot write file "));
+        QVERIFY(told.size() < 1000);
+    });
+    trigger("actionExport_Scenario_Maps");
+}
+
+void MainWindowMapsTest::exportMapsOntoAFullDiskWarns()
+{
+    load();
+    writeFile("one.e3m", "old");
+    NextDialog box(withoutHourglass(warning(refusal("one.e3m", "File too large").text + "\n\n" +
+                                            refusal("three.e3m", "File too large").text)));
+    const FileSizeLimit limit(100);
+    trigger("actionExport_Scenario_Maps");
+    QCOMPARE(contents(path("one.e3m")), QByteArray("old"));
+    QVERIFY(!QFile::exists(path("three.e3m")));
 }
 
 void MainWindowMapsTest::exportMapsOfAnUntitledCampaignUsesTheCurrentFolder()
@@ -158,6 +219,21 @@ void MainWindowMapsTest::refreshMapsWarnsOfAnUnreadableFileAndEnds()
     QVERIFY(!EditorData::info.modified);
     QCOMPARE(window->windowTitle(), "home.e3c - " + appTitle);
     QCOMPARE(savedByTheWindow().scenarios[2].compressedMap, mapNamed("Stonegate"));
+}
+
+void MainWindowMapsTest::refreshMapsReadsNothingOutside()
+{
+    load();
+    const QTemporaryDir outside;
+    const QString target = samples::writeFile(outside.filePath("map"), mapNamed("Outsiders"));
+    QVERIFY(QFile::link(target, path("one.e3m")));
+    {
+        NextDialog box(withoutHourglass(
+            warning("Cannot read file one.e3m:\nToo many levels of symbolic links.")));
+        trigger("actionRefresh_Scenario_Maps");
+    }
+    QVERIFY(!EditorData::info.modified);
+    QCOMPARE(savedByTheWindow().scenarios[0].compressedMap, mapNamed("Ironmoors"));
 }
 
 void MainWindowMapsTest::refreshMapsOfNoMapsCountsAsAChange()

@@ -31,9 +31,13 @@ private slots:
     void commandRefreshesFromTheFolder();
     void fileOutsideIsNoMap_data() { addNames(); }
     void fileOutsideIsNoMap();
+    void nothingButMapsIsReplaced_data();
+    void nothingButMapsIsReplaced();
 
 private:
     ChildResult cli(const QStringList &words) const;
+    // All files but the one map that is exported as it should be, and links to nowhere.
+    Folder foldersFiles() const;
     // What an export has to leave.
     Folder expectedExport(const Folder &before) const;
 };
@@ -47,6 +51,12 @@ void MapNamesTest::init()
 ChildResult MapNamesTest::cli(const QStringList &words) const
 {
     return runChild(builtProgram("cmped-cli"), QStringList{"--game", fixture.game.path()} + words);
+}
+
+Folder MapNamesTest::foldersFiles() const
+{
+    QFile::remove(path("home/three.e3m"));
+    return filesBelow(folder->path());
 }
 
 Folder MapNamesTest::expectedExport(const Folder &before) const
@@ -118,6 +128,45 @@ void MapNamesTest::fileOutsideIsNoMap()
     const bool passedOver = m_name.file.isEmpty();
     QVERIFY(refreshed.scenarios[2].compressedMap ==
             mapNamed(passedOver ? "Southgate" : "Stonegate"));
+}
+
+void MapNamesTest::nothingButMapsIsReplaced_data()
+{
+    QTest::addColumn<hostile::MapName>("name");
+    QTest::addColumn<QString>("reason");
+    for (const char *name : {"home.e3c", "mine.e3c", "notes.txt", "MINE.E3C"})
+        QTest::newRow(name) << hostile::MapName{name, name, name} << "File exists";
+    for (const char *name : {".profile", ".new", ".three.e3m"})
+        QTest::newRow(name) << hostile::MapName{name, name, name} << "Operation not permitted";
+    for (const char *name : {"out.e3m", "far.e3m", "lost.e3m"})
+        QTest::newRow(name) << hostile::MapName{name, name, name}
+                            << "Too many levels of symbolic links";
+}
+
+void MapNamesTest::nothingButMapsIsReplaced()
+{
+    QFETCH(QString, reason);
+    QVERIFY(QFile::copy(path("home/home.e3c"), path("home/mine.e3c")));
+    QVERIFY(QFile::copy(path("home/home.e3c"), path("home/MINE.E3C")));
+    QVERIFY(writeMap("notes.txt", "the author's") && writeMap(".profile", "the author's"));
+    QVERIFY(QFile::link("../x", path("home/out.e3m")));
+    QVERIFY(QFile::link(path("null"), path("home/far.e3m")));
+    // Where nothing can be made: a program that followed it fails its test and harms no machine.
+    QVERIFY(QFile::link("/proc/lost", path("home/lost.e3m")));
+    const QString told = "Cannot write file " + path("home/" + m_name.file) + ":\n" + reason + '.';
+    window->loadFile(path("home/home.e3c"));
+    {
+        const NextDialog box(boxAnswer(warning(told)));
+        const Folder before = foldersFiles();
+        trigger("actionExport_Scenario_Maps");
+        QVERIFY(box.came());
+        QVERIFY(foldersFiles() == before);
+    }
+    const Folder before = foldersFiles();
+    const ChildResult result = cli({"export-maps", path("home/home.e3c"), path("home")});
+    QCOMPARE(QString::fromUtf8(result.error), "Error: " + told + '\n');
+    QCOMPARE(result.exitCode, 2);
+    QVERIFY(foldersFiles() == before);
 }
 
 QTEST_MAIN(MapNamesTest)

@@ -13,7 +13,7 @@
 
 Q_DECLARE_METATYPE(hostile::MapName)
 
-// Every file below a folder, by the bytes of its name there.
+// Every file below a folder, by the bytes of its name there. Links to nowhere are none.
 using Folder = std::map<std::string, QByteArray>;
 
 inline Folder filesBelow(const QString &path)
@@ -22,7 +22,7 @@ inline Folder filesBelow(const QString &path)
     const fs::path root = QFile::encodeName(path).toStdString();
     Folder files;
     for (const fs::directory_entry &entry : fs::recursive_directory_iterator(root)) {
-        if (entry.is_directory())
+        if (entry.is_directory() || !entry.exists())
             continue;
         QFile file;
         const int handle = open(entry.path().c_str(), O_RDONLY | O_CLOEXEC);
