@@ -2,7 +2,6 @@
 #include "document/campaign_data.h"
 #include "document/map_file_name.h"
 #include "document/prerequisites.h"
-#include "gamedata/file_name.h"
 #include "gamedata/game_dir.h"
 #include "gamedata/readable_file.h"
 #include "gamedata/used_folder.h"
@@ -30,19 +29,6 @@ void releaseMap(ScenarioData &scenario, std::size_t scenarioCount)
     scenario.mapSize = 0;
     scenario.compressedMap.clear();
     scenario.prerequisites = QBitArray(int(scenarioCount));
-}
-
-// Tells a place where nothing can be written, of which nothing is said, from a disk that is full.
-bool canBeOpened(const QString &path)
-{
-    if (!namesOneFile(path))
-        return false;
-    QFile file(path);
-    const bool existed = file.exists();
-    const bool opened = file.open(QIODevice::ReadWrite);
-    if (opened && !existed)
-        file.remove();
-    return opened;
 }
 
 } // namespace
@@ -103,8 +89,8 @@ void ScenarioGeneral::exportMap()
     if (path.isEmpty())
         return;
     const SaveResult result = saveFileSafely(path, {scenario->compressedMap});
-    if (!result.ok && !canBeOpened(path))
-        return;
+    if (!result.ok && !result.opened)
+        return; // authors know it so
     rememberFolderOf(path);
     if (!result.ok)
         warn(this, tr("Error"), tr("Cannot write file %1:\n%2.").arg(path, result.error));

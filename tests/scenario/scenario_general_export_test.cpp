@@ -29,6 +29,12 @@ private:
     QTimer m_timer;
 };
 
+ExpectedBox failure(const QString &path, int code)
+{
+    const QString why = QString::fromLocal8Bit(strerror(code));
+    return {"Error", "Cannot write file " + path + ":\n" + why + ".", QMessageBox::Warning};
+}
+
 } // namespace
 
 class ScenarioGeneralExportTest : public QObject
@@ -44,6 +50,8 @@ private slots:
     void cancelledExportDoesNothing();
     void exportWhereNothingOpensIsSilent();
     void exportOntoAFullDiskWarns();
+    void exportOntoAFullDiskLeavesALinkToNowhere();
+    void exportOntoADiskWithoutRoomForAName();
     void removePassesPrerequisitesOn();
     void removeLeavesAnEmptyScenario();
     void removeInACampaignWithoutMap();
@@ -125,15 +133,40 @@ void ScenarioGeneralExportTest::exportOntoAFullDiskWarns()
     const QString path = fixture->filePath("large.e3m");
     {
         NextDialog dialog(chooseFile(fixture->saving("isle.e3m"), path));
-        NextDialog told(boxAnswer(
-            {"Error",
-             "Cannot write file " + path + ":\n" + QString::fromLocal8Bit(strerror(EFBIG)) + ".",
-             QMessageBox::Warning}));
+        NextDialog told(boxAnswer(failure(path, EFBIG)));
         const FileSizeLimit limit(100000);
         tab.click("exportButton");
     }
     QVERIFY(QDir(fixture->folderPath()).isEmpty());
     QCOMPARE(usedFolderBytes(), fixture->folderBytes());
+}
+
+void ScenarioGeneralExportTest::exportOntoAFullDiskLeavesALinkToNowhere()
+{
+    CampaignData campaign = campaignOf(true, QStringList{"isle"});
+    GeneralTab tab(campaign);
+    const QString path = fixture->filePath("link.e3m");
+    QVERIFY(QFile::link("nowhere.e3m", path));
+    {
+        NextDialog dialog(chooseFile(fixture->saving("isle.e3m"), path));
+        NextDialog told(boxAnswer(failure(path, EFBIG)));
+        const FileSizeLimit limit(3);
+        tab.click("exportButton");
+    }
+    QCOMPARE(QFile::symLinkTarget(path), fixture->filePath("nowhere.e3m"));
+    QVERIFY(!QFile::exists(fixture->filePath("nowhere.e3m")));
+}
+
+void ScenarioGeneralExportTest::exportOntoADiskWithoutRoomForAName()
+{
+    const SmallDisk disk(100, 1);
+    if (!disk.isMounted())
+        QSKIP("no right to mount a disk here");
+    CampaignData campaign = campaignOf(true, QStringList{"isle"});
+    GeneralTab tab(campaign);
+    NextDialog dialog(chooseFile(fixture->saving("isle.e3m"), disk.path("isle.e3m")));
+    NextDialog told(boxAnswer(failure(disk.path("isle.e3m"), ENOSPC)));
+    tab.click("exportButton");
 }
 
 void ScenarioGeneralExportTest::removePassesPrerequisitesOn()
