@@ -1,6 +1,7 @@
 #include "cli/standard_output.h"
 
-#include <cerrno>
+#include "gamedata/disk_file.h"
+
 #include <unistd.h>
 
 namespace {
@@ -44,12 +45,14 @@ void StandardOutput::flush()
 {
     qint64 done = 0;
     while (m_error == 0 && done < m_buffer.size()) {
-        const ssize_t written =
-            ::write(STDOUT_FILENO, m_buffer.constData() + done, size_t(m_buffer.size() - done));
-        if (written >= 0)
+        const ssize_t written = uninterrupted([&] {
+            return ::write(STDOUT_FILENO, m_buffer.constData() + done,
+                           size_t(m_buffer.size() - done));
+        });
+        if (written > 0)
             done += written;
-        else if (errno != EINTR)
-            m_error = errno;
+        else
+            m_error = written < 0 ? errno : EIO;
     }
     m_buffer.resize(0); // keeps its room
 }
