@@ -19,8 +19,7 @@ namespace {
 constexpr qint64 headerBytes = 92;
 constexpr qint64 entryBytes = sizeof(LodFile);
 
-// The index is taken in pieces of this many entries, so that a count which lies makes room for no
-// more than half a megabyte. The game's own archives fit into one.
+// The index is taken in pieces of this many entries. The game's own archives fit into one.
 constexpr qint64 entriesPerRead = 16384;
 
 // Packed data is taken in pieces, since its size is the file's word and the result may need little
@@ -92,8 +91,10 @@ LodFile parseEntry(const char *bytes)
     return file;
 }
 
+// A count that lies makes no room for more entries than the file has.
 std::vector<KeptEntry> readIndex(QFile &file, qint64 count)
 {
+    count = std::min(count, (file.size() - file.pos()) / entryBytes + 1);
     std::vector<KeptEntry> kept;
     QByteArray piece;
     while (count > 0) {
