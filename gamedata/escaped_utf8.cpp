@@ -57,6 +57,12 @@ int utf8SequenceAt(const QByteArray &bytes, int place)
     return 0;
 }
 
+// The same, at once for ASCII, as most of most texts is.
+int lengthAt(const QByteArray &bytes, int place)
+{
+    return uchar(bytes.at(place)) < 0x80 ? 1 : utf8SequenceAt(bytes, place);
+}
+
 // ASCII is never escaped, so its escapes are somebody's own surrogates.
 bool isEscape(const QString &text, int place)
 {
@@ -69,8 +75,7 @@ bool isWellFormed(const QByteArray &bytes)
 {
     int place = 0;
     while (place < bytes.size()) {
-        const bool isAscii = uchar(bytes.at(place)) < 0x80; // as most of most texts is
-        const int length = isAscii ? 1 : utf8SequenceAt(bytes, place);
+        const int length = lengthAt(bytes, place);
         if (length == 0)
             return false;
         place += length;
@@ -87,28 +92,34 @@ uint codePointOf(const char *sequence, int length)
     return point;
 }
 
-void append(QString &text, uint point)
+// Writes a code point, of which there is room for both halves, and answers the place behind it.
+QChar *put(QChar *to, uint point)
 {
-    if (QChar::requiresSurrogates(point))
-        text += QChar(QChar::highSurrogate(point));
-    text += QChar::requiresSurrogates(point) ? QChar(QChar::lowSurrogate(point)) : QChar(point);
+    if (QChar::requiresSurrogates(point)) {
+        *to++ = QChar(QChar::highSurrogate(point));
+        *to++ = QChar(QChar::lowSurrogate(point));
+    } else {
+        *to++ = QChar(point);
+    }
+    return to;
 }
 
-// Well-formed sequences as text, every other byte escaped. Not by the codec: rubbish of megabytes
-// would be a million little calls.
+// Well-formed sequences as text, every other byte escaped; no sequence is shorter than its text.
+// Not by the codec: rubbish of megabytes would be a million little calls.
 QString decodeDamagedUtf8(const QByteArray &bytes)
 {
-    QString text;
-    text.reserve(bytes.size());
+    QString text(bytes.size(), Qt::Uninitialized);
+    QChar *to = text.data();
     int place = 0;
     while (place < bytes.size()) {
-        const int length = utf8SequenceAt(bytes, place);
+        const int length = lengthAt(bytes, place);
         if (length == 0)
-            text += escapedByte(bytes.at(place));
+            *to++ = escapedByte(bytes.at(place));
         else
-            append(text, codePointOf(bytes.constData() + place, length));
+            to = put(to, codePointOf(bytes.constData() + place, length));
         place += qMax(1, length);
     }
+    text.truncate(int(to - text.constData()));
     return text;
 }
 
