@@ -9,8 +9,8 @@ namespace {
 constexpr qint64 smallestPiece = 4096;
 constexpr qint64 largestPiece = qint64(256) * 1024;
 
-// As much as the file seems to have left, and one byte by which its end is seen. Room for more would
-// take longer than a short file itself.
+// As much as the file seems to have left, and one byte by which its end is seen. Room for more
+// would take longer than a short file itself.
 qint64 nextPiece(const QFile &file, const QByteArray &bytes)
 {
     return qBound(smallestPiece, file.size() - bytes.size() + 1, largestPiece);
