@@ -73,6 +73,9 @@ void RecoveryCopies::leave()
 
 std::optional<FoundCopy> RecoveryCopies::newestToOffer() const
 {
+    if (m_folder.isEmpty())
+        return std::nullopt;
+    removeRemains(m_folder);
     const QVector<RecoveryFile> copies = recoveryFilesIn(m_folder);
     for (const RecoveryFile &copy : copies) {
         // An empty one is the name of a copy that was never written.
@@ -134,14 +137,17 @@ bool RecoveryCopies::reserveName(const QString &documentName)
 
 void RecoveryCopies::removeOldest() const
 {
+    removeRemains(m_folder);
+    int kept = 1; // the new one, which may not be written yet
     const QVector<RecoveryFile> copies = recoveryFilesIn(m_folder);
-    for (int i = copiesKept; i < copies.size(); ++i) {
-        if (const auto lock = lockedFile(copies[i].path)) {
-            QFile::remove(copies[i].path);
-            QFile::remove(originPath(m_folder, copies[i].base));
+    for (const RecoveryFile &copy : copies) {
+        if (copy.base == m_base || copy.size == 0 || ++kept <= copiesKept)
+            continue;
+        if (const auto lock = lockedFile(copy.path)) {
+            QFile::remove(copy.path);
+            QFile::remove(originPath(m_folder, copy.base));
         }
     }
-    removeRemains(m_folder);
 }
 
 void RecoveryCopies::removeFiles() const

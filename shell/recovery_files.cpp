@@ -31,6 +31,7 @@ constexpr int longestName = 80; // of a document in a base, in bytes
 constexpr const char *unfinishedName = ".unfinished-XXXXXX";
 constexpr int placeholderLength = 6;
 constexpr qint64 secondsOfWriting = qint64(24) * 3600; // no copy takes longer
+constexpr qint64 secondsUntilLocked = 60;              // at the very most, once a file is made
 
 // Packed and written in a time that nobody notices. What is larger is left to a process of its own.
 constexpr int packedAtOnce = 2 * 1024 * 1024;
@@ -95,15 +96,41 @@ void removeOrphanedOrigins(const QString &folder)
     }
 }
 
+qint64 ageOf(const QDateTime &time)
+{
+    return time.secsTo(QDateTime::currentDateTime());
+}
+
+// An editor locks a file as soon as it has made it, so an older one that nobody has locked is left
+// of an editor that was killed. Answers it locked.
+std::unique_ptr<QFile> leftFile(const QString &path, const QDateTime &time)
+{
+    return ageOf(time) < secondsUntilLocked ? nullptr : lockedFile(path);
+}
+
 void removeUnfinishedFiles(const QString &folder)
 {
     const QString pattern =
         QString(QLatin1String(unfinishedName)).chopped(placeholderLength) + QLatin1Char('*');
-    const QDateTime longAgo = QDateTime::currentDateTime().addSecs(-secondsOfWriting);
     const auto files = QDir(folder).entryInfoList({pattern}, QDir::Files | QDir::Hidden);
     for (const QFileInfo &file : files) {
-        if (file.lastModified() < longAgo)
+        // A system without locks lets nobody have a file locked, so old age does as well.
+        if (ageOf(file.lastModified()) > secondsOfWriting ||
+            leftFile(file.filePath(), file.lastModified()))
             QFile::remove(file.filePath());
+    }
+}
+
+// Names of copies that were never written.
+void removeEmptyCopies(const QString &folder)
+{
+    const QVector<RecoveryFile> copies = recoveryFilesIn(folder);
+    for (const RecoveryFile &copy : copies) {
+        if (copy.size > 0)
+            continue;
+        const auto file = leftFile(copy.path, copy.time);
+        if (file && file->size() == 0)
+            QFile::remove(copy.path);
     }
 }
 
@@ -224,6 +251,7 @@ RecoveryOrigin readOrigin(const QString &path)
 
 void removeRemains(const QString &folder)
 {
+    removeEmptyCopies(folder);
     removeOrphanedOrigins(folder);
     removeUnfinishedFiles(folder);
 }

@@ -9,12 +9,12 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-constexpr int patience = 60000; // milliseconds, for what takes a moment
+constexpr int patience = 30000; // milliseconds, for what takes a moment
 
 // More than is written while one waits.
 inline QByteArray large(char byte)
 {
-    return QByteArray(40 * 1024 * 1024, byte);
+    return QByteArray(33 * 1024 * 1024, byte);
 }
 
 // An editor that is killed once it has done this. Answers whether it has come that far.

@@ -1,4 +1,5 @@
 // The folder of recovery copies: which are offered, who has them, and which go.
+#include "shell/recovery_files.h"
 #include "tests/shell/recovery_folder.h"
 
 class RecoveryCopiesOfferedTest : public QObject, private RecoveryFolder
@@ -18,7 +19,10 @@ private slots:
     void tenNewestStay();
     void copyOfARunningEditorIsNeverDrivenOut();
     void authorsOwnFilesStay();
+    void emptyNamesDriveNoCopyOut();
+    void remainsOfKilledEditorsGo_data();
     void remainsOfKilledEditorsGo();
+    void filesOfWritingEditorsStay();
 };
 
 void RecoveryCopiesOfferedTest::newestIsOfferedFirstAndNoneTwice()
@@ -152,15 +156,61 @@ void RecoveryCopiesOfferedTest::authorsOwnFilesStay()
     QCOMPARE(files().size(), 13);
 }
 
+// They are of copies that are being written, or never will be.
+void RecoveryCopiesOfferedTest::emptyNamesDriveNoCopyOut()
+{
+    for (int i = 0; i < 9; ++i)
+        leaveCopy("copy" + QString::number(i), 100 + i);
+    for (int i = 0; i < 12; ++i)
+        QVERIFY(write(path(QString("2026-03-14 15-09-%1 name.e3c").arg(10 + i)), ""));
+    leaveCopy("last", 0);
+    QCOMPARE(files().filter("copy").size(), 9);
+    QCOMPARE(files().filter("last").size(), 1);
+}
+
+void RecoveryCopiesOfferedTest::remainsOfKilledEditorsGo_data()
+{
+    QTest::addColumn<bool>("byNewCopy");
+    QTest::newRow("when a copy is kept") << true;
+    QTest::newRow("at the start") << false;
+}
+
+// Be they locked or not if they are of yesterday: not every system has locks.
 void RecoveryCopiesOfferedTest::remainsOfKilledEditorsGo()
 {
+    QFETCH(bool, byNewCopy);
     QVERIFY(QDir().mkpath(folder));
     QVERIFY(write(path("2026-03-14 15-09-26 gone.origin"), "{}"));
+    const QString name = "2026-03-14 15-09-27 name.e3c";
+    QVERIFY(write(path("2026-03-14 15-09-27 name.origin"), "{}"));
+    QVERIFY(write(path(name), "") && age(path(name), 2));
     QVERIFY(write(path(".unfinished-abcdef"), "x") && age(path(".unfinished-abcdef"), 25 * 60));
-    QVERIFY(write(path(".unfinished-ghijkl"), "x") && age(path(".unfinished-ghijkl"), 23 * 60));
+    QVERIFY(write(path(".unfinished-ghijkl"), "x") && age(path(".unfinished-ghijkl"), 2));
+    QFile locked(path(".unfinished-abcdef"));
+    QVERIFY(locked.open(QIODevice::ReadOnly) && lockFile(locked));
+    if (byNewCopy)
+        leaveCopy("harbour", 0);
+    else
+        QVERIFY(!RecoveryCopies(folder).newestToOffer());
+    QCOMPARE(files().size(), int(byNewCopy));
+}
+
+// What is locked, and what is so new that it may not be locked yet.
+void RecoveryCopiesOfferedTest::filesOfWritingEditorsStay()
+{
+    QVERIFY(QDir().mkpath(folder));
+    std::vector<std::unique_ptr<QFile>> locks;
+    for (const char *name : {"2026-03-14 15-09-26 name.e3c", ".unfinished-abcdef"}) {
+        locks.push_back(std::make_unique<QFile>(path(name)));
+        QVERIFY(locks.back()->open(QIODevice::WriteOnly) && lockFile(*locks.back()));
+        QVERIFY(age(path(name), 23 * 60));
+    }
+    QVERIFY(write(path("2026-03-14 15-09-26 name.origin"), "{}"));
+    QVERIFY(write(path("2026-03-14 15-09-27 name.e3c"), ""));
+    QVERIFY(write(path(".unfinished-ghijkl"), "x"));
     leaveCopy("harbour", 0);
-    QCOMPARE(files().size(), 2);
-    QVERIFY(files().contains(".unfinished-ghijkl"));
+    QVERIFY(RecoveryCopies(folder).newestToOffer());
+    QCOMPARE(files().size(), 6);
 }
 
 QTEST_GUILESS_MAIN(RecoveryCopiesOfferedTest)

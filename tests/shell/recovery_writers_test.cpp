@@ -197,12 +197,14 @@ void RecoveryWritersTest::killOfTheEditorsGroupLeavesTheWriter()
     QVERIFY(runKilledEditor(
         [&] {
             auto *copies = new RecoveryCopies(folder);
+            copies->keep("harbour", untitled, {{}, {"small"}});
             copies->keep("harbour", untitled, {{}, {large('x')}});
             waitForWriters(1);
         },
         true));
-    gate->openFor(INT_MAX);
     const RecoveryCopies copies(folder);
+    QVERIFY(!copies.newestToOffer()); // what will be replaced is nobody else's
+    gate->openFor(INT_MAX);
     QTRY_VERIFY_WITH_TIMEOUT(copies.newestToOffer(), patience);
     QVERIFY(onlyCopy() == large('x'));
 }
