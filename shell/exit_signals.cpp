@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
@@ -16,9 +17,11 @@ volatile std::sig_atomic_t writingEnd = -1;
 
 void wakeEventLoop(int)
 {
+    const int interrupted = errno; // of whatever call is interrupted
     const char byte = 0;
     // A full pipe has woken the loop already.
     [[maybe_unused]] const ssize_t written = ::write(writingEnd, &byte, 1);
+    errno = interrupted;
 }
 
 // A signal that is ignored stays ignored: whoever started the editor by "nohup" wants it to go on.
