@@ -52,7 +52,7 @@ struct CallDuty
 
 // "open" and "fstat" are on the file that is written, on one that a killed process left, and on the
 // folder.
-constexpr std::array<CallDuty, 20> callDuties{{
+constexpr std::array<CallDuty, 24> callDuties{{
     {"readlink", Duty::Needed},       {"stat", Duty::Needed},
     {"faccessat", Duty::Either}, // may the file be written; may a file without a name get one
     {"pread", Duty::Needed},          {"pwrite", Duty::Needed},
@@ -63,7 +63,9 @@ constexpr std::array<CallDuty, 20> callDuties{{
     {"opendir", Duty::Harmless},      {"readdir", Duty::Harmless},
     {"closedir", Duty::Harmless},     {"flock", Duty::Harmless},
     {"fsync folder", Duty::Harmless}, {"close", Duty::Harmless},
-    {"close folder", Duty::Harmless},
+    {"close folder", Duty::Harmless}, {"fchown", Duty::Harmless},
+    {"unlink", Duty::Harmless}, // of what a killed process left
+    {"getxattr", Duty::Needed},       {"fremovexattr", Duty::Needed},
 }};
 
 inline Duty dutyOf(const std::string &call)

@@ -17,6 +17,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/uio.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace {
@@ -262,6 +263,11 @@ ON_HANDLE(faultyFstat64, "fstat64", "fstat", int, (int handle, struct stat64 *st
 ON_HANDLE(faultyFchmod, "fchmod", "fchmod", int, (int handle, mode_t mode), (handle, mode))
 ON_HANDLE(faultyFchown, "fchown", "fchown", int, (int handle, uid_t owner, gid_t group),
           (handle, owner, group))
+ON_HANDLE(faultyFsetxattr, "fsetxattr", "fsetxattr", int,
+          (int handle, const char *name, const void *value, std::size_t size, int flags),
+          (handle, name, value, size, flags))
+ON_HANDLE(faultyFremovexattr, "fremovexattr", "fremovexattr", int, (int handle, const char *name),
+          (handle, name))
 ON_HANDLE(faultyFlock, "flock", "flock", int, (int handle, int operation), (handle, operation))
 ON_HANDLE(faultyLseek, "lseek", "lseek", off_t, (int handle, off_t place, int from),
           (handle, place, from))
@@ -284,6 +290,9 @@ ON_PATH(faultyFaccessat, "faccessat", int, (int folder, const char *path, int mo
         (folder, path, mode, flags), isWatched(path))
 ON_PATH(faultyReadlink, "readlink", ssize_t, (const char *path, char *text, std::size_t size),
         (path, text, size), isWatched(path))
+ON_PATH(faultyGetxattr, "getxattr", ssize_t,
+        (const char *path, const char *name, void *value, std::size_t size),
+        (path, name, value, size), isWatched(path))
 ON_PATH(faultyChmod, "chmod", int, (const char *path, mode_t mode), (path, mode), isWatched(path))
 ON_PATH(faultyRename, "rename", int, (const char *from, const char *to), (from, to),
         isWatched(from) || isWatched(to))

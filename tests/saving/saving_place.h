@@ -19,6 +19,8 @@ public:
         New,
         Existing,
         Link,
+        Leftover, // beside it stands what a killed process left
+        Foreign,  // somebody else's, and of another group; anybody's own without root
         InPlace
     };
 
@@ -29,6 +31,10 @@ public:
             done = makeFile(target(), oldBytes()) && done;
         if (kind == Link)
             done = QFile::link(QStringLiteral("target.e3c"), path()) && done;
+        if (kind == Leftover)
+            done = makeFile(m_dir.filePath(leftover()), "left") && done;
+        if (kind == Foreign && geteuid() == 0)
+            done = chown(QFile::encodeName(target()).constData(), user, group) == 0 && done;
         if (kind != New)
             done = chmod(QFile::encodeName(target()).constData(), mode) == 0 && done;
         if (!done)
@@ -55,7 +61,9 @@ public:
             expected.prepend(QStringLiteral("link.e3c"));
         if (m_kind == New && !saved)
             expected.clear();
-        const QStringList files = filesOf(m_dir.path());
+        QStringList files = filesOf(m_dir.path());
+        if (m_kind == Leftover)
+            files.removeOne(leftover()); // unless it couldn't be
         if (files != expected)
             return QStringLiteral("files: ") + files.join(QLatin1Char(' '));
         if (expected.isEmpty())
@@ -63,8 +71,10 @@ public:
         if (bytesOf(target()) != (saved ? bytes : oldBytes()))
             return QStringLiteral("not the bytes");
         struct stat status = {};
-        if (m_kind != New && (stat(QFile::encodeName(target()).constData(), &status) != 0 ||
-                              (status.st_mode & 07777) != mode))
+        const bool there = stat(QFile::encodeName(target()).constData(), &status) == 0;
+        // Where the group couldn't be kept the mode is nothing to another one.
+        const bool lostGroup = m_kind == Foreign && geteuid() == 0 && status.st_gid != group;
+        if (m_kind != New && (!there || (status.st_mode & 07777) != (lostGroup ? 0600 : mode)))
             return QStringLiteral("not the mode");
         if (m_kind == Link && !QFileInfo(path()).isSymLink())
             return QStringLiteral("the link is gone");
@@ -73,6 +83,10 @@ public:
 
 private:
     static constexpr mode_t mode = 0640;
+    static constexpr uid_t user = 1234;
+    static constexpr gid_t group = 4321;
+
+    static QString leftover() { return QStringLiteral(".cmped-save-abc123"); }
 
     QString target() const { return m_dir.filePath(QStringLiteral("target.e3c")); }
 
