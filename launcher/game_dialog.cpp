@@ -1,7 +1,7 @@
 #include "launcher/game_dialog.h"
 
 #include "gamedata/game_search.h"
-#include "gamedata/translation_file.h"
+#include "gamedata/program_translation.h"
 #include "shell/warning_box.h"
 
 #include <QApplication>

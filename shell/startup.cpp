@@ -3,7 +3,7 @@
 #include "gamedata/editor_data.h"
 #include "gamedata/game_language.h"
 #include "gamedata/ini_file.h"
-#include "gamedata/translation_file.h"
+#include "gamedata/program_translation.h"
 
 #include <QApplication>
 #include <QTextCodec>

@@ -1,4 +1,4 @@
-#include "gamedata/translation_file.h"
+#include "gamedata/program_translation.h"
 
 #include "gamedata/game_dir.h"
 
