@@ -1,6 +1,6 @@
 // The seeds that are replayed are those that the maker writes: none is missing, none is left over.
-// Beside them stand what the fuzzer found, named by a hash, the files of mended faults and those cut
-// out of the sample game.
+// Beside them stand what the fuzzer found, named by a hash, the files of mended faults and those
+// cut out of the sample game.
 #include "fuzz/corpus.h"
 
 #include <QDir>
@@ -31,7 +31,8 @@ QDir corpusFolder(const QString &target = QString())
 
 bool isFound(const QString &name)
 {
-    static const QRegularExpression found(QStringLiteral("^([0-9a-f]{40}|(fault|sample)_[a-z0-9_]+)$"));
+    static const QRegularExpression found(
+        QStringLiteral("^([0-9a-f]{40}|(fault|sample)_[a-z0-9_]+)$"));
     return found.match(name).hasMatch();
 }
 
