@@ -3,6 +3,7 @@
 #include "document/campaign_data.h"
 #include "tests/support/child_process.h"
 #include "tests/support/file_contents.h"
+#include "tests/support/stored_options.h"
 #include "tests/support/tiny_game.h"
 
 #include <QDir>
@@ -27,6 +28,9 @@ private slots:
     void otherEndsLeaveTheCopy();
     void endsLeaveTheCopyOfAnUntitledCampaign_data();
     void endsLeaveTheCopyOfAnUntitledCampaign();
+    void dialogIsAllThatAnEndTakesAway_data();
+    void dialogIsAllThatAnEndTakesAway();
+    void unknownBonusLeavesTheCopy();
     void savedAndUnwantedChangesLeaveNone_data();
     void savedAndUnwantedChangesLeaveNone();
     void nextStartOffersItOnceTheWindowShows();
@@ -51,6 +55,8 @@ private:
     {
         return game->addCampaign("home.e3c", tiny::campaign(24, {{true, 1}, {true, 3}, {}}));
     }
+    // That campaign behind a change of its name, as it is saved.
+    const QByteArray &changedHome();
     // Of the campaign in the only copy.
     QString nameInCopy() const;
     // The question about the only copy, as the probe prints it.
@@ -58,7 +64,7 @@ private:
 
     std::unique_ptr<tiny::Game> game;
     std::unique_ptr<QTemporaryDir> data;
-    QByteArray changed; // that campaign behind a change, as it is saved
+    QByteArray changed; // made once
 };
 
 void RecoveryEndsTest::initTestCase()
@@ -99,6 +105,20 @@ QStringList RecoveryEndsTest::lines(const ChildResult &result, const QByteArray 
             found << QString::fromUtf8(line.mid(kind.size() + 1));
     }
     return found;
+}
+
+const QByteArray &RecoveryEndsTest::changedHome()
+{
+    if (changed.isEmpty()) {
+        const QString path = addHome();
+        auto mine = std::make_unique<QTemporaryDir>();
+        std::swap(data, mine); // nothing of it is among the test's own
+        start("edit Ember Road;save;exit", {}, {path});
+        std::swap(data, mine);
+        changed = contents(path);
+        addHome();
+    }
+    return changed;
 }
 
 QString RecoveryEndsTest::nameInCopy() const
@@ -148,20 +168,70 @@ void RecoveryEndsTest::otherEndsLeaveTheCopy()
     QFETCH(QString, answers);
     const QString path = addHome();
     const QByteArray before = contents(path);
-    if (changed.isEmpty()) {
-        start("edit Ember Road;save;exit", {}, {path});
-        changed = contents(path);
-        QVERIFY(changed != before);
-        addHome();
-    }
+    const QByteArray after = changedHome();
+    QVERIFY(after != before);
     QVERIFY(start("edit Ember Road;" + end, answers, {path}).started);
     QCOMPARE(contents(path), before);
     QCOMPARE(copies().size(), 1);
     QVERIFY(copies()[0].endsWith(" home.e3c"));
-    QCOMPARE(contents(recovery() + '/' + copies()[0]), changed);
+    QCOMPARE(contents(recovery() + '/' + copies()[0]), after);
     const QString question = offer("home");
     QCOMPARE(lines(start("save;exit", "Yes"), "box"), QStringList(question));
-    QCOMPARE(contents(path), changed);
+    QCOMPARE(contents(path), after);
+    QCOMPARE(copies(), QStringList());
+}
+
+void RecoveryEndsTest::dialogIsAllThatAnEndTakesAway_data()
+{
+    QTest::addColumn<QString>("dialog");
+    QTest::addColumn<int>("signal");
+    for (const char *dialog : {"campaignProperties", "scenarioProperties"}) {
+        for (const int signal : {SIGTERM, SIGKILL})
+            QTest::addRow("%s, signal %d", dialog, signal) << dialog << signal;
+    }
+}
+
+// What was accepted before is in the copy, and nothing of the dialog that is open.
+void RecoveryEndsTest::dialogIsAllThatAnEndTakesAway()
+{
+    QFETCH(QString, dialog);
+    QFETCH(int, signal);
+    const QString path = addHome();
+    const QByteArray before = contents(path);
+    const QString end = QString("within %1;signal %2").arg(dialog).arg(signal);
+    const ChildResult result = start("edit Ember Road;" + end, {}, {path});
+    QCOMPARE(lines(result, "dialog").size(), 1);
+    QCOMPARE(result.exitedNormally, signal == SIGTERM);
+    QCOMPARE(contents(path), before);
+    QCOMPARE(copies().size(), 1);
+    QCOMPARE(contents(recovery() + '/' + copies()[0]), changedHome());
+    const QString question = offer("home");
+    QCOMPARE(lines(start("exit", "Yes"), "box"), QStringList(question));
+}
+
+// The dialog has no words for it, so the editor ends when the scenario is opened.
+void RecoveryEndsTest::unknownBonusLeavesTheCopy()
+{
+    const QString path = addHome();
+    QFile file(path);
+    CampaignData campaign;
+    QVERIFY(file.open(QIODevice::ReadOnly) && !campaign.readCampaign(&file));
+    campaign.scenarios[0].startOptions = resourceBonuses(1);
+    StartingBonusSet set = campaign.scenarios[0].startOptions->optionData.value<StartingBonusSet>();
+    set.bonuses[0] = {8, {}};
+    campaign.scenarios[0].startOptions->optionData = QVariant::fromValue(set);
+    QVERIFY(campaign.saveTo(path).ok);
+    const QByteArray before = contents(path);
+    const ChildResult result =
+        start("edit Ember Road;within scenarioProperties;close", "Cancel", {path});
+    QCOMPARE(result.exitCode, 1);
+    QCOMPARE(lines(result, "dialog"), QStringList());
+    QCOMPARE(lines(result, "box"), QStringList());
+    QCOMPARE(contents(path), before);
+    QCOMPARE(nameInCopy(), QString("Ember Road"));
+    const QString question = offer("home");
+    QCOMPARE(lines(start("save;exit", "Yes"), "box"), QStringList(question));
+    QVERIFY(contents(path) != before);
     QCOMPARE(copies(), QStringList());
 }
 

@@ -2,6 +2,9 @@
 // RECOVERY_PROBE_STEPS names, with ";" between them:
 //
 //   edit NAME    names the campaign so in its properties
+//   within ACTION
+//                opens this dialog of the menu, writes into all its texts and takes the next step
+//                with the dialog open
 //   new ROW      makes a new campaign on this row of the list
 //   recent       opens the first of the recent files
 //   save, exit   by the menu
@@ -70,6 +73,21 @@ void useDialog(const QMainWindow *window, const char *action,
     window->findChild<QAction *>(action)->trigger();
 }
 
+void takeStep(QMainWindow *window, const QString &step);
+
+void leaveDialogOpen(QMainWindow *window, const QString &action)
+{
+    QTimer::singleShot(0, window, [window] {
+        const QWidget *dialog = QApplication::activeModalWidget();
+        const auto texts = dialog->findChildren<QTextEdit *>();
+        for (QTextEdit *text : texts)
+            text->setPlainText("not accepted");
+        print({"dialog", dialog->windowTitle()});
+        takeStep(window, steps.takeFirst());
+    });
+    window->findChild<QAction *>(action)->trigger();
+}
+
 void openRecentFile(const QMainWindow *window)
 {
     const auto actions = window->findChildren<QAction *>();
@@ -87,6 +105,8 @@ void takeStep(QMainWindow *window, const QString &step)
         useDialog(window, "campaignProperties", [rest](QWidget *dialog) {
             dialog->findChild<QTextEdit *>("nameEdit")->setPlainText(rest);
         });
+    else if (word == "within")
+        leaveDialogOpen(window, rest);
     else if (word == "new")
         useDialog(window, "actionNew", [rest](QWidget *dialog) {
             dialog->findChild<QListWidget *>("listWidget")->setCurrentRow(rest.toInt());

@@ -1,5 +1,6 @@
 // Every message and title that shows a path shows it as it is: nothing in a name is taken for the
 // place of another argument, for markup or for a letter to underline.
+#include "document/gzip_member.h"
 #include "gamedata/locale_codec.h"
 #include "scenario/scenario_info.h"
 #include "tests/shell/exchange_window.h"
@@ -27,6 +28,8 @@ private slots:
     void questionAboutChanges();
     void questionAboutAFileThatHasChanged_data() { addNames(); }
     void questionAboutAFileThatHasChanged();
+    void questionAboutARecoveryCopy_data() { addNames(); }
+    void questionAboutARecoveryCopy();
     void titleAndMenu_data() { addNames(); }
     void titleAndMenu();
     void textsThatAreNone_data() { addNames(); }
@@ -143,6 +146,22 @@ void PathMessagesTest::questionAboutAFileThatHasChanged()
                   QMessageBox::NoIcon, QMessageBox::Yes | QMessageBox::No, QMessageBox::No}));
     trigger("actionSave");
     QCOMPARE(contents(path(m_name)), QByteArray("somebody else's"));
+}
+
+void PathMessagesTest::questionAboutARecoveryCopy()
+{
+    const QString recovery = RecoveryCopies::usualFolder();
+    QDir(recovery).removeRecursively();
+    const QString file = path(m_name + ".e3c");
+    RecoveryCopies(recovery).keep("harbour", {file, {}}, {{}, {"x"}});
+    const auto copies = QDir(recovery).entryInfoList({"*.e3c"}, QDir::Files);
+    QCOMPARE(copies.size(), 1);
+    const QString time = copies[0].lastModified().toString("yyyy-MM-dd HH:mm");
+    MainWindow next(nullptr);
+    NextDialog box(plainBox(
+        {appTitle, "Changes to " + m_name + " were not saved. Open the copy kept on " + time + "?",
+         QMessageBox::NoIcon, QMessageBox::Yes | QMessageBox::No, QMessageBox::No}));
+    next.offerRecoveryCopy();
 }
 
 void PathMessagesTest::titleAndMenu()
