@@ -9,6 +9,7 @@
 #include "shell/tune_file.h"
 
 #include "gamedata/limits.h"
+#include "gamedata/readable_file.h"
 
 #include <QFile>
 #include <QtEndian>
@@ -62,7 +63,7 @@ bool formatsAreSound(QFile &file)
 std::optional<TuneKind> tuneKind(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (openToRead(file))
         return {};
     const QByteArray head = file.read(headBytes);
     if (head.startsWith("RIFF"))

@@ -1,6 +1,7 @@
 // Kinds of sound files told by their bytes, and heads that the sound library doesn't survive.
 #include "shell/tune_file.h"
 #include "tests/support/byte_writer.h"
+#include "tests/support/idle_pipe.h"
 #include "tests/support/tunes.h"
 
 #include <QFile>
@@ -133,6 +134,10 @@ void TuneFileTest::whatCantBeReadHasNone()
 {
     QVERIFY(!tuneKind(m_dir.filePath("gone.mp3")));
     QVERIFY(!tuneKind(m_dir.path()));
+    const IdlePipe pipe(m_dir.filePath("pipe.mp3"));
+    QVERIFY(pipe.isMade());
+    QVERIFY(!tuneKind(m_dir.filePath("pipe.mp3")));
+    QVERIFY(!pipe.wasOpened());
 }
 
 QTEST_GUILESS_MAIN(TuneFileTest)
