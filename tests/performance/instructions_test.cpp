@@ -1,6 +1,7 @@
-// How many instructions opening a campaign, refreshing its maps, composing pictures and starting
-// take, held within a tenth of what they took when this table was written. More of them is time
-// lost unseen; fewer is good news, and the table wants the new figure.
+// How many instructions opening a campaign, refreshing its maps, keeping its recovery copy,
+// composing pictures and starting take, held within a tenth of what they took when this table was
+// written. More of them is time lost unseen; fewer is good news, and the table wants the new
+// figure.
 //
 // The counts are those of a fixed kind of processor and of libraries that choose their code for the
 // oldest one: what the machine is or has installed has little part in them.
@@ -36,6 +37,7 @@ struct CountedRow
 constexpr CountedRow countedRows[] = {
     {"opening a campaign of eight maps", "counted_work", "open", 1581000},
     {"refreshing its maps", "counted_work", "refresh", 3527000},
+    {"renewing its recovery copy", "counted_copy", "keep", 526500},
     {"reading the game's tables, 12,000 entries in its archives", "counted_work", "load", 18130000},
     {"composing a region in three looks", "counted_work", "compose", 1337000, 655000},
     {"the same in vectors that every processor has", "counted_work_narrow", "compose", 1337000},
@@ -157,8 +159,9 @@ void InstructionsTest::staysWithinATenth()
     QStringList arguments;
     if (*counted.work != '\0')
         arguments << counted.work << m_game;
-    if (qstrcmp(counted.work, "open") == 0 || qstrcmp(counted.work, "refresh") == 0)
-        arguments << m_campaign;
+    for (const char *work : {"open", "refresh", "keep"})
+        if (qstrcmp(counted.work, work) == 0)
+            arguments << m_campaign;
     bool wide = false;
     const qint64 instructions = countOf(counted.program, arguments, wide);
     const qint64 expected =

@@ -7,7 +7,9 @@
 #include <QRegularExpression>
 #include <QTextCodec>
 
+#include <dlfcn.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -24,7 +26,28 @@ QString withoutTime(const QString &name)
     return time.match(name).hasMatch() ? name.mid(20) : "no time in " + name;
 }
 
+// Waits for the disk so far, by this process.
+int waits = 0;
+
+template<typename Function, typename... Arguments>
+int countWait(const char *name, Arguments... arguments)
+{
+    ++waits;
+    return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name))(arguments...);
+}
+
 } // namespace
+
+// They stand before the C library's, for Qt too.
+extern "C" __attribute__((visibility("default"))) int fsync(int handle)
+{
+    return countWait<int (*)(int)>("fsync", handle);
+}
+
+extern "C" __attribute__((visibility("default"))) int fdatasync(int handle)
+{
+    return countWait<int (*)(int)>("fdatasync", handle);
+}
 
 class RecoveryCopiesTest : public QObject, private RecoveryFolder
 {
@@ -37,6 +60,7 @@ private slots:
     void usualFolderIsInTheUsersData();
     void copyHoldsThePiecesInOrder();
     void laterOneTakesThePlaceOfTheFirst();
+    void nobodyWaitsForTheDisk();
     void nameTellsWhenAndWhat();
     void namesOfDocumentsAreMadeHarmless_data();
     void namesOfDocumentsAreMadeHarmless();
@@ -81,6 +105,20 @@ void RecoveryCopiesTest::laterOneTakesThePlaceOfTheFirst()
     copies.keep("harbour", untitled, {{}, {"second"}});
     QCOMPARE(files(), first);
     QCOMPARE(contents(path(first[0])), QByteArray("second"));
+}
+
+// It is kept at every change.
+void RecoveryCopiesTest::nobodyWaitsForTheDisk()
+{
+    fsync(-1);
+    fdatasync(-1);
+    QCOMPARE(waits, 2);
+    RecoveryCopies copies(folder);
+    for (const char *content : {"first", "second"})
+        copies.keep("harbour", {"/campaigns/harbour.e3c", {}}, {"head", {content}});
+    copies.leave();
+    QCOMPARE(files().size(), 2);
+    QCOMPARE(waits, 2);
 }
 
 void RecoveryCopiesTest::nameTellsWhenAndWhat()
