@@ -1,7 +1,7 @@
 // Which bonuses a player may have on the map at hand.
 #include "document/starting_bonus_rules.h"
 
-#include "tests/scenario/bonus_rows.h"
+#include "tests/support/bonus_rows.h"
 
 #include <QtTest>
 

@@ -1,8 +1,8 @@
 // Saving on disks that fill up or fail: the old file stays whole.
 #include "gamedata/safe_save.h"
 
-#include "tests/gamedata/safe_save_support.h"
 #include "tests/support/disk_faults.h"
+#include "tests/support/safe_save_support.h"
 
 #include <QtTest>
 

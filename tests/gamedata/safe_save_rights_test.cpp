@@ -1,8 +1,8 @@
 // Saving over a file with an access list: nobody is let in.
 #include "gamedata/safe_save.h"
 
-#include "tests/gamedata/safe_save_support.h"
 #include "tests/support/byte_writer.h"
+#include "tests/support/safe_save_support.h"
 
 #include <QtTest>
 

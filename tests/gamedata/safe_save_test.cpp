@@ -1,7 +1,7 @@
 // Saving: what becomes of modes, owners, links and files that can't be replaced.
 #include "gamedata/safe_save.h"
 
-#include "tests/gamedata/safe_save_support.h"
+#include "tests/support/safe_save_support.h"
 #include "tests/support/terminal.h"
 
 #include <QtTest>

@@ -1,7 +1,7 @@
 // Disks that are full at every page: the old file or the new one is whole, and the window tells.
-#include "tests/gamedata/safe_save_support.h"
 #include "tests/saving/saving_window.h"
 #include "tests/support/disk_faults.h"
+#include "tests/support/safe_save_support.h"
 
 #include <QtTest>
 

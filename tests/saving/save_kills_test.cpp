@@ -1,8 +1,8 @@
 // A process is killed while it saves: the old file or the new one is whole, and what is left beside
 // it is hidden and goes with the next save. CMPED_SAVE_KILLS in the environment says how many kills
 // there are in each way; scripts/save-torture.sh asks for many.
-#include "tests/gamedata/safe_save_support.h"
 #include "tests/support/child_process.h"
+#include "tests/support/safe_save_support.h"
 
 #include <QProcess>
 #include <QtTest>

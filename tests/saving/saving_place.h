@@ -1,7 +1,7 @@
 // A folder with a file that is to be saved, and what has become of it.
 #pragma once
 
-#include "tests/gamedata/safe_save_support.h"
+#include "tests/support/safe_save_support.h"
 
 #include <QFile>
 #include <QString>

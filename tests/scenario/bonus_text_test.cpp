@@ -1,8 +1,8 @@
 // What a bonus is called in the list.
 #include "scenario/bonus_text.h"
 
-#include "tests/scenario/bonus_rows.h"
 #include "tests/scenario/bracket_translator.h"
+#include "tests/support/bonus_rows.h"
 #include "tests/support/report_recorder.h"
 
 #include <QtTest>

@@ -3,8 +3,8 @@
 #include "scenario/starting_bonus.h"
 
 #include "document/campaign_data.h"
-#include "tests/scenario/bonus_rows.h"
 #include "tests/scenario/shown_page.h"
+#include "tests/support/bonus_rows.h"
 
 #include <QtTest>
 

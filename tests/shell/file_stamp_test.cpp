@@ -1,8 +1,8 @@
 // Whether a file is still the one it was.
 #include "shell/file_stamp.h"
 
-#include "tests/gamedata/safe_save_support.h"
 #include "tests/support/file_contents.h"
+#include "tests/support/safe_save_support.h"
 
 #include <QDir>
 #include <QTemporaryDir>

@@ -1,8 +1,8 @@
 // Saving over a file that another program has changed since it was opened or saved here.
-#include "tests/gamedata/safe_save_support.h"
 #include "tests/shell/exchange_window.h"
 #include "tests/support/child_process.h"
 #include "tests/support/disk_faults.h"
+#include "tests/support/safe_save_support.h"
 
 #include <QCloseEvent>
 #include <QPushButton>
