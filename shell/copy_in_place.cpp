@@ -16,12 +16,16 @@ CopyInPlace::~CopyInPlace()
 bool CopyInPlace::replace(const UnpackedFile &content)
 {
     settle();
-    stopWaiting();
-    if (takesLong(content) && writeBehind(content))
-        return true;
-    stop(); // what is older mustn't come last
-    auto file = replaceFile(m_path, content);
+    if (takesLong(content)) {
+        stopWaiting();
+        if (writeBehind(content))
+            return true;
+    }
+    auto file = writtenBeside(m_path, content);
     if (!file)
+        return false;
+    stop(); // what is older mustn't come last
+    if (!takePlace(*file, m_path))
         return false;
     m_file = std::move(file);
     return true;

@@ -213,18 +213,19 @@ std::unique_ptr<QTemporaryFile> fileBeside(const QString &path)
     return file;
 }
 
-std::unique_ptr<QFile> replaceFile(const QString &path, const UnpackedFile &content)
+std::unique_ptr<QTemporaryFile> writtenBeside(const QString &path, const UnpackedFile &content)
 {
     auto file = fileBeside(path);
-    if (!file || !writeAtOnce(*file, content))
-        return nullptr;
+    return file && writeAtOnce(*file, content) ? std::move(file) : nullptr;
+}
+
+bool takePlace(QTemporaryFile &file, const QString &path)
+{
     std::error_code failure;
-    std::filesystem::rename(QFile::encodeName(file->fileName()).toStdString(),
+    std::filesystem::rename(QFile::encodeName(file.fileName()).toStdString(),
                             QFile::encodeName(path).toStdString(), failure);
-    if (failure)
-        return nullptr;
-    file->setAutoRemove(false);
-    return file;
+    file.setAutoRemove(bool(failure));
+    return !failure;
 }
 
 // A path is noted by its bytes, which needn't be UTF-8, nor in the encoding of the next editor.
@@ -233,7 +234,8 @@ void writeOrigin(const QString &path, const RecoveryOrigin &origin)
     const QByteArray name = QFile::encodeName(origin.path).toPercentEncoding("/ ");
     const QJsonObject note{{QLatin1String(pathKey), QLatin1String(name)},
                            {QLatin1String(stampKey), textOf(origin.stamp)}};
-    replaceFile(path, {{}, {QJsonDocument(note).toJson()}});
+    if (const auto file = writtenBeside(path, {{}, {QJsonDocument(note).toJson()}}))
+        takePlace(*file, path);
 }
 
 RecoveryOrigin readOrigin(const QString &path)

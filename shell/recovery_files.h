@@ -56,10 +56,12 @@ bool takesLong(const UnpackedFile &content);
 // A new file beside that one, open and locked, which goes if it doesn't take a place. Null if none
 // can be made.
 std::unique_ptr<QTemporaryFile> fileBeside(const QString &path);
-// Puts the content in the place of a file, which is the old one or the new one whatever happens to
-// the process. Answers the new file, open and locked; null if the old one stays. Doesn't wait for
-// the disk: a copy is for an end of the editor, and costs time at every change of the document.
-std::unique_ptr<QFile> replaceFile(const QString &path, const UnpackedFile &content);
+// The same with this content. Doesn't wait for the disk: a copy is for an end of the editor, and
+// costs time at every change of the document. Null if it can't be written.
+std::unique_ptr<QTemporaryFile> writtenBeside(const QString &path, const UnpackedFile &content);
+// Puts it in the place of that file, which is the old one or the new one whatever happens to the
+// process.
+bool takePlace(QTemporaryFile &file, const QString &path);
 
 void writeOrigin(const QString &path, const RecoveryOrigin &origin);
 // Without a sound note of it, the copy is one of a document without a file.

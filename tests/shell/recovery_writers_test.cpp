@@ -72,6 +72,7 @@ private slots:
     void smallCopyEndsAllWriting();
     void removedCopyDoesNotComeBackFromTwoWriters();
     void oneThatFailsLeavesTheOneBeforeIt();
+    void smallOneThatFailsLeavesThemAll();
     void killOfTheEditorsGroupLeavesTheWriter();
     void writerHoldsNothingElseOfTheEditor();
 
@@ -189,6 +190,23 @@ void RecoveryWritersTest::oneThatFailsLeavesTheOneBeforeIt()
     QCOMPARE(files().size(), 1);
     QVERIFY(onlyCopy() == large('a'));
     QVERIFY(copies.newestToOffer());
+}
+
+void RecoveryWritersTest::smallOneThatFailsLeavesThemAll()
+{
+    RecoveryCopies copies(folder);
+    gate->openFor(0);
+    copies.keep("harbour", untitled, {{}, {large('a')}});
+    QTRY_COMPARE_WITH_TIMEOUT(gate->begun.load(), 1, patience);
+    copies.keep("harbour", untitled, {{}, {large('b')}});
+    {
+        const FileSizeLimit limit(2);
+        copies.keep("harbour", untitled, {{}, {"small"}});
+    }
+    gate->openFor(INT_MAX);
+    copies.leave();
+    QCOMPARE(files().size(), 1);
+    QVERIFY(onlyCopy() == large('b'));
 }
 
 void RecoveryWritersTest::killOfTheEditorsGroupLeavesTheWriter()
