@@ -12,6 +12,7 @@
 namespace {
 
 constexpr int answerLimit = 90000; // milliseconds; the editor may be at work
+constexpr int clickLimit = 20000;  // until somebody clicks again
 constexpr int logLength = 2000;
 
 QString words(const QJsonObject &answer)
@@ -150,13 +151,23 @@ void Editor::pointAt(QPoint at)
     }
 }
 
+// While the window manager moves the input from one window to another it may keep a click to
+// itself. Whoever sees nothing happen clicks again.
 void Editor::click(QPoint at, int button, int times)
 {
-    pointAt(at);
-    const int before = look({})["presses"].toInt();
-    m_screen.click(at, button, times);
-    waitFor({}, "the click reaches the editor",
-            [&](const QJsonObject &answer) { return answer["presses"].toInt() >= before + times; });
+    const Patience patience;
+    for (;;) {
+        pointAt(at);
+        const int before = look({})["presses"].toInt();
+        m_screen.click(at, button, times);
+        const Patience arrival(clickLimit);
+        do {
+            if (look({})["presses"].toInt() >= before + times)
+                return;
+        } while (arrival.isLeft());
+        if (!patience.isLeft())
+            throw Failure("the click reaches the editor", words(look({})));
+    }
 }
 
 void Editor::press(const QString &key)

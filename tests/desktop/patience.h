@@ -8,6 +8,8 @@
 class Patience
 {
 public:
+    explicit Patience(int limit = longest) : m_end(limit) {} // milliseconds
+
     bool isLeft() const
     {
         QThread::msleep(pause);
@@ -15,8 +17,8 @@ public:
     }
 
 private:
-    static constexpr int limit = 90000; // milliseconds
+    static constexpr int longest = 90000;
     static constexpr unsigned long pause = 10;
 
-    QDeadlineTimer m_end{limit};
+    QDeadlineTimer m_end;
 };
