@@ -23,7 +23,6 @@ namespace {
 using Path = std::filesystem::path;
 
 constexpr size_t hashLength = 40;
-constexpr rlim_t bytesAnInput = rlim_t(256) << 20;
 
 std::vector<Path> filesOf(const Path &path)
 {
@@ -55,6 +54,18 @@ void runCutTo(const std::vector<char> &bytes, size_t length)
     LLVMFuzzerTestOneInput(data.get(), length);
 }
 
+#ifdef CMPED_INSTRUMENTED
+
+// The sanitizers take nearly all addresses there are, and have limits of their own.
+bool limitMemory()
+{
+    return true;
+}
+
+#else
+
+constexpr rlim_t bytesAnInput = rlim_t(256) << 20;
+
 // What the process takes of its addresses, 0 if the system doesn't say.
 rlim_t addressesTaken()
 {
@@ -63,19 +74,16 @@ rlim_t addressesTaken()
     return pages * rlim_t(sysconf(_SC_PAGESIZE));
 }
 
-// All inputs together may take so much beyond what an empty one has made. The sanitizers take
-// nearly all addresses there are, and have limits of their own.
+// All inputs together may take so much beyond what an empty one has made.
 bool limitMemory()
 {
-#ifdef CMPED_INSTRUMENTED
-    return true;
-#else
     runCutTo({}, 0);
     const rlim_t taken = addressesTaken();
     const rlimit limit = {taken + bytesAnInput, taken + bytesAnInput};
     return taken > 0 && setrlimit(RLIMIT_AS, &limit) == 0;
-#endif
 }
+
+#endif
 
 bool replay(const Path &path, bool whole)
 {
