@@ -39,7 +39,7 @@ void ExitSignalsTest::eventLoopEnds()
     QFETCH(int, number);
     const ExitSignals answered;
     QTimer::singleShot(0, [number] { std::raise(number); });
-    QTimer::singleShot(60000, qApp, [] { QCoreApplication::exit(1); });
+    QTimer::singleShot(60000, [] { QCoreApplication::exit(1); });
     QCOMPARE(QCoreApplication::exec(), 0);
 }
 
