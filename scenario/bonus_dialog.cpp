@@ -1,11 +1,11 @@
 #include "scenario/bonus_dialog.h"
 
+#include "document/map_player.h"
 #include "scenario/bonus_creature_dlg.h"
 #include "scenario/bonus_multibox_dlg.h"
 #include "scenario/bonus_text.h"
 #include "scenario/bonus_type.h"
 #include "scenario/bonus_value_dlg.h"
-#include "document/map_player.h"
 #include "shell/chosen_button.h"
 #include "shell/dialog_look.h"
 #include "ui_bonus_dialog.h"

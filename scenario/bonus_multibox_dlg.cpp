@@ -1,9 +1,9 @@
 #include "scenario/bonus_multibox_dlg.h"
 
+#include "document/map_player.h"
 #include "document/start_options.h"
 #include "gamedata/editor_data.h"
 #include "scenario/bonus_type.h"
-#include "document/map_player.h"
 #include "scenario/naming.h"
 #include "scenario/option_page.h"
 #include "shell/choice_box.h"

@@ -1,9 +1,9 @@
 #include "scenario/bonus_text.h"
 
+#include "document/map_player.h"
 #include "gamedata/editor_data.h"
 #include "gamedata/report.h"
 #include "scenario/bonus_type.h"
-#include "document/map_player.h"
 #include "scenario/naming.h"
 
 #include <QObject>

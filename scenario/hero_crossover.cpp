@@ -1,7 +1,7 @@
 #include "scenario/hero_crossover.h"
 
-#include "scenario/hero_crossover_dialog.h"
 #include "document/map_player.h"
+#include "scenario/hero_crossover_dialog.h"
 #include "ui_HeroCrossover.h"
 
 #include <QDebug>

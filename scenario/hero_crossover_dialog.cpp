@@ -1,7 +1,7 @@
 #include "scenario/hero_crossover_dialog.h"
 
-#include "gamedata/editor_data.h"
 #include "document/map_player.h"
+#include "gamedata/editor_data.h"
 #include "scenario/naming.h"
 #include "scenario/option_dialog.h"
 #include "scenario/option_page.h"

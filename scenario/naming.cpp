@@ -1,8 +1,8 @@
 #include "scenario/naming.h"
 
 #include "document/campaign_data.h"
-#include "gamedata/editor_data.h"
 #include "document/map_player.h"
+#include "gamedata/editor_data.h"
 #include "shell/shown_text.h"
 
 #include <QComboBox>

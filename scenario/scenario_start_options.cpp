@@ -1,8 +1,8 @@
 #include "scenario/scenario_start_options.h"
 
 #include "document/campaign_data.h"
-#include "scenario/hero_crossover.h"
 #include "document/map_player.h"
+#include "scenario/hero_crossover.h"
 #include "scenario/scenario_host.h"
 #include "scenario/starting_bonus.h"
 #include "scenario/starting_hero_options.h"

@@ -1,11 +1,11 @@
 #include "scenario/starting_bonus.h"
 
 #include "document/campaign_data.h"
+#include "document/starting_bonus_rules.h"
 #include "scenario/bonus_dialog.h"
 #include "scenario/bonus_text.h"
 #include "scenario/bonus_type.h"
 #include "scenario/naming.h"
-#include "document/starting_bonus_rules.h"
 #include "shell/choice_box.h"
 #include "ui_StartingBonus.h"
 
