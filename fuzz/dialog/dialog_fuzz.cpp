@@ -1,6 +1,7 @@
 // Opens the input as a campaign, shows every scenario in all tabs of the scenario dialog and stores
 // what they show. The campaign that comes out is saved and must be the same when it is read again.
 #include "document/campaign_data.h"
+#include "document/gzip_member.h"
 #include "fuzz/memory_file.h"
 #include "fuzz/quiet_start.h"
 #include "fuzz/time_limit.h"
@@ -109,6 +110,39 @@ bool mayNotBeSaved(const CampaignData &campaign, const SaveResult &result)
            result.error == qt_error_string(EFBIG);
 }
 
+// What the recovery copy of the campaign would be, packed. Nothing if there would be none.
+std::optional<QByteArray> keptBytes(CampaignData &campaign)
+{
+    const std::optional<UnpackedFile> kept = campaign.unpacked();
+    QByteArray bytes;
+    const auto append = [&](const char *more, int size) {
+        bytes.append(more, size);
+        return true;
+    };
+    MemberPacker packer;
+    if (!kept || !packer.add(kept->head.constData(), kept->head.size(), append) ||
+        !packer.finish(append))
+        return {};
+    for (const QByteArray &map : kept->rest)
+        bytes += map;
+    return bytes;
+}
+
+// The file as it is made in memory.
+QByteArray madeBytes(CampaignData &campaign)
+{
+    QByteArray bytes;
+    for (const QByteArray &piece : campaign.toPieces())
+        bytes += piece;
+    return bytes;
+}
+
+QByteArray bytesOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
@@ -128,8 +162,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const SaveResult saved = edited.saveTo(path);
     if (!saved.ok && !mayNotBeSaved(edited, saved))
         abort(); // the author would have to throw the work away
+    const std::optional<QByteArray> kept = keptBytes(edited);
+    if (kept.has_value() != saved.ok || (saved.ok && *kept != bytesOf(path)))
+        abort(); // after a sudden end the author would get another campaign back
     if (!saved.ok)
         return 0;
+    if (madeBytes(edited) != *kept)
+        abort(); // the same campaign is packed in two ways
     const std::optional<CampaignData> again = readFrom(path);
     if (!again || storedWords(*again) != storedWords(edited))
         abort(); // the author would find another campaign than the one that was saved
