@@ -38,8 +38,8 @@ void ExitSignalsTest::eventLoopEnds()
 {
     QFETCH(int, number);
     const ExitSignals answered;
-    QTimer::singleShot(0, [number] { std::raise(number); });
-    QTimer::singleShot(60000, [] { QCoreApplication::exit(1); });
+    QTimer::singleShot(0, this, [number] { std::raise(number); });
+    QTimer::singleShot(60000, this, [] { QCoreApplication::exit(1); });
     QCOMPARE(QCoreApplication::exec(), 0);
 }
 
