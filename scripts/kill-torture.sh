@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Kills the editor at random moments of an author's day, far oftener than the ordinary tests do, and
-# prints what every end has left. The day is lived once without an end first, to compare with.
+# prints what every end has left. The day is lived once without an end first, to compare with, and
+# then as often as it takes for all kills to come.
 #   scripts/kill-torture.sh [KILLS [SEED]]   so many kills, 100 if not said
 set -euo pipefail
 
@@ -21,6 +22,6 @@ parts=("$PWD/build/release/bin" "$PWD/build/release/sample-game" "$PWD/$folder/p
 
 say "A day without an end before its own"
 "build/release/bin/author_day_test" "${parts[@]}"
-say "The same day, and $kills ends"
+say "The same day again and again, and $kills ends"
 "build/release/bin/sudden_end_test" "${parts[@]}" "$kills" "$seed"
 say "Nothing was lost but the dialog that was open."

@@ -83,8 +83,9 @@ std::vector<Moment> randomMoments(const DayRecord &record, int count, unsigned s
 }
 
 InterruptedDay::InterruptedDay(Workplace &place, const DayRecord &record, std::vector<Moment> ends,
-                               std::function<void(const QString &)> tell)
-    : m_place(place), m_record(record), m_moments(std::move(ends)), m_tell(std::move(tell))
+                               Figures &figures, std::function<void(const QString &)> tell)
+    : m_place(place), m_record(record), m_moments(std::move(ends)), m_tell(std::move(tell)),
+      m_figures(figures)
 {
     bool fits = std::size_t(record.size()) == m_steps.size();
     for (std::size_t i = 0; fits && i < m_steps.size(); ++i)

@@ -21,16 +21,7 @@ std::vector<Moment> randomMoments(const DayRecord &record, int count, unsigned s
 class InterruptedDay
 {
 public:
-    // The record is that of the same steps. Every end is told in a line.
-    InterruptedDay(Workplace &place, const DayRecord &record, std::vector<Moment> ends,
-                   std::function<void(const QString &)> tell);
-
-    // Throws a Failure at whatever isn't as it has to be.
-    void live();
-
-    // The step in hand, in words.
-    QString where() const;
-
+    // Of all days that are given them.
     struct Figures
     {
         int kills = 0;
@@ -42,7 +33,16 @@ public:
         int unasked = 0;   // starts without a copy, which ask nothing
         int hidden = 0;    // files that a killed save left beside the others
     };
-    const Figures &figures() const { return m_figures; }
+
+    // The record is that of the same steps. Every end is told in a line, and counted.
+    InterruptedDay(Workplace &place, const DayRecord &record, std::vector<Moment> ends,
+                   Figures &figures, std::function<void(const QString &)> tell);
+
+    // Throws a Failure at whatever isn't as it has to be.
+    void live();
+
+    // The step in hand, in words.
+    QString where() const;
 
 private:
     void liveStep();
@@ -66,7 +66,7 @@ private:
     const std::vector<Moment> m_moments;
     const std::function<void(const QString &)> m_tell;
     const DayEntry m_morning;
-    Figures m_figures;
+    Figures &m_figures;
     std::unique_ptr<SuddenEnd> m_end;
     std::size_t m_next = 0; // of the moments
     int m_step = 0;

@@ -1,5 +1,5 @@
-// Lives through an author's day in which the editor is killed at random moments, and tells what
-// every end has left.
+// Lives through days of an author in which the editor is killed at random moments, until so many
+// kills have come, and tells what every end has left.
 //
 // Usage: sudden_end_test PROGRAMS SAMPLE_GAME PLUGINS DOCUMENTS RECORD [KILLS [SEED]]
 // RECORD is that of a day without an accident, which author_day_test writes. The moments come from
@@ -29,10 +29,10 @@ void tellFailure(const Failure &failure, const QString &where)
     tell("  seen: " + failure.seen);
 }
 
-void tellFigures(const InterruptedDay::Figures &figures, int wanted, qint64 milliseconds)
+void tellFigures(const InterruptedDay::Figures &figures, int wanted, int days, qint64 milliseconds)
 {
-    tell(QString("%1 of %2 kills in %3 s")
-             .arg(QString::number(figures.kills), QString::number(wanted),
+    tell(QString("%1 of %2 kills, days: %3, seconds: %4")
+             .arg(QString::number(figures.kills), QString::number(wanted), QString::number(days),
                   QString::number(milliseconds / 1000)));
     const std::pair<const char *, int> rows[] = {
         {"all as before the step in hand", figures.unchanged},
@@ -47,26 +47,39 @@ void tellFigures(const InterruptedDay::Figures &figures, int wanted, qint64 mill
         tell(QString("%1  %2").arg(count, 5).arg(QLatin1String(words)));
 }
 
-bool liveThrough(Workplace &place, const DayRecord &record, int kills, unsigned seed)
+// False if an end left something that it should not.
+bool liveOneDay(const BuiltParts &parts, const DayRecord &record, int kills, unsigned seed,
+                InterruptedDay::Figures &figures)
 {
-    QElapsedTimer timer;
-    timer.start();
-    InterruptedDay day(place, record, randomMoments(record, kills, seed, place), tell);
-    bool whole = true;
+    Workplace place(parts);
+    InterruptedDay day(place, record, randomMoments(record, kills, seed, place), figures, tell);
     try {
         day.live();
+        return true;
     } catch (const Failure &failure) {
-        whole = false;
         tellFailure(failure, day.where());
         const QString picture =
             qEnvironmentVariable("CMPED_FAILURE_PICTURE", "sudden_end_failure.png");
         if (place.screen().savePicture(picture))
             tell("  picture: " + picture);
         tell("  the editor's last words:\n" + place.editor().log());
+        return false;
     }
-    tellFigures(day.figures(), kills, timer.elapsed());
-    // On a day that goes by faster than the recorded one, the last moments come too late.
-    const bool enough = day.figures().kills * 2 >= kills;
+}
+
+// A step is met by one end at a time, and on a day that goes by faster than the recorded one the
+// last moments come too late. What hasn't come on one day comes on another.
+bool liveThrough(const BuiltParts &parts, const DayRecord &record, int kills, unsigned seed)
+{
+    QElapsedTimer timer;
+    timer.start();
+    InterruptedDay::Figures figures;
+    bool whole = true;
+    int days = 0;
+    for (; whole && figures.kills < kills && days < kills; ++days)
+        whole = liveOneDay(parts, record, kills - figures.kills, seed + unsigned(days), figures);
+    tellFigures(figures, kills, days, timer.elapsed());
+    const bool enough = figures.kills >= kills;
     if (whole && !enough)
         tell("FAIL: too few kills");
     return whole && enough;
@@ -86,8 +99,8 @@ int main(int argc, char **argv)
     }
     try {
         const DayRecord record = readRecord(arguments[5]);
-        Workplace place({arguments[1], arguments[2], arguments[3], arguments[4]});
-        return liveThrough(place, record, kills, seed) ? 0 : 1;
+        const BuiltParts parts{arguments[1], arguments[2], arguments[3], arguments[4]};
+        return liveThrough(parts, record, kills, seed) ? 0 : 1;
     } catch (const Failure &failure) {
         tellFailure(failure, "a place to work");
         return 1;
