@@ -11,6 +11,9 @@ constexpr int utf8Mib = 106;
 constexpr int escapedUtf8Mib = -7106;
 constexpr ushort byteEscape = 0xDC00;
 
+// Qt's codec of TSCII looks at two letters behind each, and behind the last one's text.
+constexpr int lettersLookedAhead = 2;
+
 // The well-formed sequences of UTF-8 by their first byte. Bytes behind the second are 80 to BF.
 struct Utf8Sequence
 {
@@ -175,6 +178,7 @@ bool isHalfCharacter(const QString &text, int place)
 
 QByteArray withoutEscapes(const QString &text, const QTextCodec &codec)
 {
+    const QString padded = text + QString(lettersLookedAhead, QChar(QChar::Null));
     QByteArray bytes;
     int begin = 0;
     for (int i = 0; i <= text.size(); ++i) {
@@ -182,7 +186,7 @@ QByteArray withoutEscapes(const QString &text, const QTextCodec &codec)
         if (!atEnd && !isEscape(text, i))
             continue;
         if (i > begin)
-            bytes += codec.fromUnicode(text.constData() + begin, i - begin);
+            bytes += codec.fromUnicode(padded.constData() + begin, i - begin);
         if (!atEnd)
             bytes += char(text.at(i).unicode() - byteEscape);
         begin = i + 1;

@@ -10,6 +10,11 @@
 #include <QTest>
 #include <QTextCodec>
 
+#include <algorithm>
+
+#include <sys/mman.h>
+#include <unistd.h>
+
 namespace {
 
 // The escape of a byte: a low surrogate by itself.
@@ -42,6 +47,33 @@ protected:
         ++conversions;
         return QString(text, size).toLatin1();
     }
+};
+
+// A text behind which nothing may be read.
+class TextAtTheEndOfMemory
+{
+public:
+    explicit TextAtTheEndOfMemory(const QString &text) : m_size(text.size())
+    {
+        m_pages =
+            mmap(nullptr, 2 * page, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+        if (m_pages == MAP_FAILED || mprotect(end(), page, PROT_NONE) != 0)
+            qFatal("no memory");
+        std::copy(text.begin(), text.end(), begin());
+    }
+    ~TextAtTheEndOfMemory() { munmap(m_pages, 2 * page); }
+    TextAtTheEndOfMemory(const TextAtTheEndOfMemory &) = delete;
+    TextAtTheEndOfMemory &operator=(const TextAtTheEndOfMemory &) = delete;
+
+    QString text() const { return QString::fromRawData(begin(), m_size); }
+
+private:
+    char *end() const { return static_cast<char *>(m_pages) + page; }
+    QChar *begin() const { return reinterpret_cast<QChar *>(end()) - m_size; }
+
+    const std::size_t page = std::size_t(sysconf(_SC_PAGESIZE));
+    int m_size;
+    void *m_pages = nullptr;
 };
 
 } // namespace
@@ -201,6 +233,27 @@ private slots:
         for (int i = 0; i < texts; ++i)
             QCOMPARE(textFromBytes(damaged), "caf" + escapeOf(0xE9));
         QVERIFY2(codec->conversions <= 8 * texts, qPrintable(QString::number(codec->conversions)));
+    }
+
+    void noCodecLooksBehindTheText_data()
+    {
+        QTest::addColumn<QByteArray>("codec");
+        const auto names = QTextCodec::availableCodecs();
+        for (const QByteArray &name : names) {
+            // The others are refused.
+            if (QTextCodec::codecForName(name)->fromUnicode("a") == "a")
+                QTest::newRow(name.constData()) << name;
+        }
+    }
+
+    void noCodecLooksBehindTheText()
+    {
+        QFETCH(QByteArray, codec);
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName(codec));
+        for (const char32_t *letters : {U"a", U"ab", U"\u0B95", U"\u0B95\u0BCD", U"\U0001F600"}) {
+            const QString text = QString::fromUcs4(letters);
+            QCOMPARE(bytesFromText(TextAtTheEndOfMemory(text).text()), bytesFromText(text));
+        }
     }
 
     void everyCodecGivesBytesItsOwnMeanings()
